@@ -1,0 +1,88 @@
+#include <aygshell.h>
+#include <objbase.h>
+#include <wincodec.h>
+
+#include <climits>
+
+namespace {
+
+// Holds a COM interface for a scope.
+template <typename Interface>
+class ComPointer {
+  public:
+    ComPointer() = default;
+    ComPointer(const ComPointer&) = delete;
+    ComPointer& operator=(const ComPointer&) = delete;
+    ~ComPointer() {
+        if (pointer_) pointer_->Release();
+    }
+    Interface** Receive() { return &pointer_; }
+    Interface* Get() const { return pointer_; }
+    Interface* operator->() const { return pointer_; }
+
+  private:
+    Interface* pointer_ = nullptr;
+};
+
+bool OpenPicture(LPCWSTR path, ComPointer<IWICFormatConverter>& picture) {
+    ComPointer<IWICImagingFactory> factory;
+    ComPointer<IWICBitmapDecoder> decoder;
+    ComPointer<IWICBitmapFrameDecode> frame;
+    return SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                      IID_IWICImagingFactory,
+                                      reinterpret_cast<void**>(factory.Receive()))) &&
+           SUCCEEDED(factory->CreateDecoderFromFilename(
+               path, nullptr, GENERIC_READ, WICDecodeMetadataCacheOnDemand, decoder.Receive())) &&
+           SUCCEEDED(decoder->GetFrame(0, frame.Receive())) &&
+           SUCCEEDED(factory->CreateFormatConverter(picture.Receive())) &&
+           SUCCEEDED(picture->Initialize(frame.Get(), GUID_WICPixelFormat24bppBGR,
+                                         WICBitmapDitherTypeNone, nullptr, 0,
+                                         WICBitmapPaletteTypeCustom));
+}
+
+HBITMAP CopyPixels(IWICFormatConverter& picture) {
+    UINT width = 0, height = 0;
+    if (FAILED(picture.GetSize(&width, &height)) || width == 0 || height == 0) return nullptr;
+    const ULONGLONG stride = (width * 3ull + 3) & ~3ull;
+    const ULONGLONG size = stride * height;
+    if (size > INT_MAX) return nullptr;
+
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER),
+                      static_cast<LONG>(width),
+                      -static_cast<LONG>(height),
+                      1,
+                      24,
+                      BI_RGB,
+                      0,
+                      0,
+                      0,
+                      0,
+                      0};
+    void* pixels = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    if (!bitmap) return nullptr;
+    if (SUCCEEDED(picture.CopyPixels(nullptr, static_cast<UINT>(stride), static_cast<UINT>(size),
+                                     static_cast<BYTE*>(pixels))))
+        return bitmap;
+    DeleteObject(bitmap);
+    return nullptr;
+}
+
+HBITMAP Decode(LPCWSTR path) {
+    ComPointer<IWICFormatConverter> picture;
+    return OpenPicture(path, picture) ? CopyPixels(*picture.Get()) : nullptr;
+}
+
+} // namespace
+
+extern "C" HBITMAP WINAPI SHLoadImageFile(LPCWSTR path) {
+    if (!path) return nullptr;
+    const auto bitmap =
+        static_cast<HBITMAP>(LoadImageW(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
+    if (bitmap) return bitmap;
+    const HRESULT started = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const HBITMAP decoded = Decode(path);
+    if (SUCCEEDED(started)) CoUninitialize();
+    return decoded;
+}

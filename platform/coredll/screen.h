@@ -1,0 +1,6 @@
+#pragma once
+
+#include <windows.h>
+
+// The screen less the navigation bar.
+[[nodiscard]] RECT WorkArea();

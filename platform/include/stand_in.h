@@ -1,0 +1,38 @@
+// How tests and tools steer the stand-in for the device's core library. A device has none of this,
+// so the program itself never includes it.
+#pragma once
+
+#include <windows.h>
+
+// Kinds of call, as sets: combine them with |.
+enum StandInCalls : ULONG {
+    kRegCreateKeyCalls = 1u << 0,
+    kRegOpenKeyCalls = 1u << 1,
+    kRegCloseKeyCalls = 1u << 2,
+    kRegFlushKeyCalls = 1u << 3,
+    kRegDeleteKeyCalls = 1u << 4,
+    kRegEnumKeyCalls = 1u << 5,
+    kRegQueryValueCalls = 1u << 6,
+    kRegSetValueCalls = 1u << 7,
+    kRegDeleteValueCalls = 1u << 8,
+    kRegEnumValueCalls = 1u << 9,
+    kRegistryCalls = (1u << 10) - 1,
+};
+
+extern "C" {
+// Calls of all kinds in the set since the start or the last reset, failed ones too.
+ULONG WINAPI StandInCallCount(ULONG calls);
+
+// Sets all counts to 0 and forgets a planned failure.
+void WINAPI StandInResetCalls();
+
+// Makes the nth call from now (1 = the next) of those in the set answer `error` and do nothing.
+// Only that one call fails. A plan replaces the one before; nth 0 means that none fails.
+void WINAPI StandInFailCall(ULONG calls, ULONG nth, LONG error);
+
+// Sets the version of the system played; 0, 0 goes back to OVDEVICE_OS, or 5.1 without it.
+void WINAPI StandInSetOsVersion(DWORD major, DWORD minor);
+
+// Sets the folder of the object store's databases; null or empty goes back to "\Object Store".
+void WINAPI StandInSetObjectStore(LPCWSTR folder);
+}

@@ -1,0 +1,129 @@
+#include "pages/form_page.h"
+
+#include "shell/services/resource_strings.h"
+
+namespace {
+constexpr int kTopMargin = 8;
+constexpr int kPathLimit = 260; // Characters.
+// The parts of a path row, from its first id.
+constexpr UINT kPathEdit = 1;
+constexpr UINT kPathClear = 2;
+constexpr UINT kPathBrowse = 3;
+
+void FillChoices(HWND combo, std::span<const UINT> choices) {
+    for (const UINT text : choices) {
+        SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(LanguageText(text).CStr()));
+    }
+}
+} // namespace
+
+int FormPage::GetTabCount() const {
+    return static_cast<int>(tables_.tabs.size());
+}
+
+UINT FormPage::GetTabTitleId(int index) const {
+    return tables_.tabs[static_cast<size_t>(index)].title;
+}
+
+void FormPage::CreateControls(HWND window) {
+    for (size_t tab = 0; tab < tables_.tabs.size(); ++tab) {
+        RowLayout layout(window, normalFont, kTopMargin);
+        for (const FormRow& row : tables_.rows) {
+            if (row.tab == tab && (!row.exists || row.exists())) CreateRow(window, row, layout);
+        }
+    }
+    // Everything starts hidden; showing a tab is the base class's next step.
+    for (const FormTab& tab : tables_.tabs) {
+        ShowControlRange(window, tab.firstId, tab.lastId, SW_HIDE);
+    }
+    ApplyRules(window);
+}
+
+void FormPage::CreateRow(HWND window, const FormRow& row, RowLayout& layout) {
+    const WideString text = LanguageText(row.text);
+    switch (row.kind) {
+    case RowKind::Check:
+        layout.AddCheck(row.id, text.CStr(), (settingsStore.*row.setting).value == 1);
+        break;
+    case RowKind::Choice: {
+        HWND combo = layout.AddCombo(row.labelId, text.CStr(), row.id);
+        FillChoices(combo, row.choices);
+        SelectIndex(combo, (settingsStore.*row.setting).value);
+        break;
+    }
+    case RowKind::Path:
+        layout.AddPath(row.id, text.CStr(), (settingsStore.*row.path).value.CStr(), kPathLimit);
+        break;
+    case RowKind::Custom:
+        CreateCustomRow(window, row, layout);
+        break;
+    }
+    layout.Skip(row.gapAfter);
+}
+
+void FormPage::ShowTab(HWND window, int showCommand) {
+    const int current = CurrentTab();
+    if (current < 0 || current >= GetTabCount()) return;
+    const FormTab& tab = tables_.tabs[static_cast<size_t>(current)];
+    ShowControlRange(window, tab.firstId, tab.lastId, showCommand);
+}
+
+void FormPage::SaveValues(HWND window, WPARAM) {
+    ShowTab(window, SW_HIDE);
+    for (const FormRow& row : tables_.rows) {
+        if (!row.exists || row.exists()) SaveRow(window, row);
+    }
+}
+
+void FormPage::SaveRow(HWND window, const FormRow& row) {
+    switch (row.kind) {
+    case RowKind::Check:
+        (settingsStore.*row.setting).Set(IsBoxChecked(window, row.id) ? 1 : 0);
+        break;
+    case RowKind::Choice:
+        (settingsStore.*row.setting).Set(static_cast<uint32_t>(SelectedIndex(window, row.id)));
+        break;
+    case RowKind::Path: {
+        HWND edit = GetDlgItem(window, static_cast<int>(row.id + kPathEdit));
+        (settingsStore.*row.path).Set(ControlText(edit, kPathLimit).CStr());
+        break;
+    }
+    case RowKind::Custom:
+        SaveCustomRow(window, row);
+        break;
+    }
+}
+
+LRESULT FormPage::OnCommand(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
+    const UINT notification = HIWORD(wParam);
+    // Only what a control tells counts; an accelerator or a menu has no window.
+    if (!lParam) return 0;
+    if (notification == BN_CLICKED) OnButton(window, LOWORD(wParam));
+    if (notification == BN_CLICKED || notification == CBN_SELCHANGE) ApplyRules(window);
+    return 0;
+}
+
+void FormPage::OnButton(HWND window, UINT id) {
+    for (const FormRow& row : tables_.rows) {
+        if (row.kind != RowKind::Path) continue;
+        const int edit = static_cast<int>(row.id + kPathEdit);
+        if (id == row.id + kPathClear) SetDlgItemText(window, edit, L"");
+        if (id != row.id + kPathBrowse) continue;
+        WideString path = ControlText(GetDlgItem(window, edit), kPathLimit);
+        if (BrowsePath(window, row, path)) SetDlgItemText(window, edit, path.CStr());
+    }
+}
+
+void FormPage::ApplyRules(HWND window) const {
+    for (const EnablingRule& rule : tables_.rules) {
+        EnableControlRange(window, rule.firstId, rule.lastId, rule.isEnabled(window));
+    }
+}
+
+void FormPage::CreateCustomRow(HWND, const FormRow&, RowLayout&) {}
+
+void FormPage::SaveCustomRow(HWND, const FormRow&) {}
+
+bool FormPage::BrowsePath(HWND, const FormRow&, WideString&) {
+    return false;
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "pages/settings_page.h"
+#include "settings/settings_store.h"
+#include "ui/row_layout.h"
+
+// A page that is a form is a table: tabs, rows and enabling rules. Ids of controls are given by
+// the row; texts are ids of the language library.
+
+enum class RowKind : uint8_t {
+    Check,  // A box for a number that is 1 or 0.
+    Choice, // A drop-down list that stores the index of its entry.
+    Path,   // A path with a button to clear it and one to browse; four control ids.
+    Custom, // Made and saved by the page.
+};
+
+struct FormTab {
+    UINT title;
+    // Every control of the tab has an id in this closed range.
+    UINT firstId;
+    UINT lastId;
+};
+
+struct FormRow {
+    uint8_t tab;
+    RowKind kind;
+    UINT labelId = 0; // The label's control; none for a box.
+    UINT id;          // The control that holds the value; for a path the first of the four.
+    UINT text;
+    std::span<const UINT> choices = {};
+    DwordSetting SettingsStore::*setting = nullptr;
+    StringSetting SettingsStore::*path = nullptr;
+    bool (*exists)() = nullptr; // Null: always.
+    int8_t gapAfter = 0;        // Units between this row and the next beyond the usual pitch.
+};
+
+// Enables the controls with an id in a closed range by the state of others.
+struct EnablingRule {
+    UINT firstId;
+    UINT lastId;
+    bool (*isEnabled)(HWND page);
+};
+
+struct FormTables {
+    std::span<const FormTab> tabs;
+    std::span<const FormRow> rows;
+    std::span<const EnablingRule> rules;
+};
+
+class FormPage : public SettingsPage {
+  public:
+    explicit FormPage(const FormTables& tables) : tables_(tables) {}
+
+    [[nodiscard]] int GetTabCount() const override;
+    [[nodiscard]] UINT GetTabTitleId(int index) const override;
+    void CreateControls(HWND window) override;
+    void ShowTab(HWND window, int showCommand) override;
+    void SaveValues(HWND window, WPARAM wParam) override;
+    LRESULT OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  protected:
+    virtual void CreateCustomRow(HWND window, const FormRow& row, RowLayout& layout);
+    virtual void SaveCustomRow(HWND window, const FormRow& row);
+    // A path row's browse button was tapped: `path` gives the one shown and receives the chosen
+    // one; false when the user cancels.
+    virtual bool BrowsePath(HWND window, const FormRow& row, WideString& path);
+
+  private:
+    void CreateRow(HWND window, const FormRow& row, RowLayout& layout);
+    void SaveRow(HWND window, const FormRow& row);
+    void ApplyRules(HWND window) const;
+    void OnButton(HWND window, UINT id);
+
+    FormTables tables_;
+};

@@ -1,0 +1,279 @@
+#include "pages/settings_page.h"
+
+#include <commctrl.h>
+
+#include "resource_ids.h"
+#include "shell/services/handles.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "shell/services/window_class.h"
+#include "ui/key_navigation.h"
+
+namespace {
+constexpr int kTabStripHeight = 22;
+// Sent to every new tab strip as the device's common controls expect it: CCM_SETVERSION, with the
+// version whose strips stand at the bottom of a page.
+constexpr UINT kTabStripVersionMessage = 0x2007;
+constexpr WPARAM kTabStripVersion = 524;
+constexpr int kSampleWidth = 44;
+constexpr int kSampleHeight = 20;
+constexpr COLORREF kNoColour = 0xFFFFFFFF;
+constexpr DWORD kPageStyle = WS_POPUP | WS_VISIBLE | 0x800;
+
+SettingsPage* PageOf(HWND window) {
+    return reinterpret_cast<SettingsPage*>(GetWindowLongPtr(window, GWLP_USERDATA));
+}
+
+struct StripPlace {
+    int x;
+    int y;
+    int width;
+    int height;
+};
+
+StripPlace PlaceOfTabStrip(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {Scale(-2), client.bottom - ScaleY(kTabStripHeight) + 1, client.right + Scale(2),
+            ScaleY(kTabStripHeight) - 1};
+}
+
+void InsertTab(HWND strip, int index, const WideString& title) {
+    TCITEM item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = const_cast<wchar_t*>(title.CStr());
+    SendMessage(strip, TCM_INSERTITEM, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+}
+
+void CreateTabStrip(SettingsPage& page, HWND window) {
+    if (page.GetTabCount() < 1) return;
+    const StripPlace place = PlaceOfTabStrip(window);
+    page.tabStrip =
+        CreateWindowEx(0, WC_TABCONTROL, L"", WS_CHILD | WS_VISIBLE | TCS_BOTTOM, place.x, place.y,
+                       place.width, place.height, window, nullptr, page.hInstance, nullptr);
+    if (!page.tabStrip) return;
+    SendMessage(page.tabStrip, kTabStripVersionMessage, kTabStripVersion, 0);
+    SendMessage(page.tabStrip, WM_SETFONT, reinterpret_cast<WPARAM>(page.normalFont), FALSE);
+    // Narrow tabs: as many captions as a page has must fit a screen of 240 units without arrows.
+    SendMessage(page.tabStrip, TCM_SETPADDING, 0, MAKELPARAM(Scale(2), ScaleY(2)));
+    SendMessage(page.tabStrip, TCM_SETMINTABWIDTH, 0, 0);
+    for (int i = 0; i < page.GetTabCount(); ++i) {
+        InsertTab(page.tabStrip, i, LanguageText(page.GetTabTitleId(i)));
+    }
+}
+
+void CreateEmptyMenuBar(SettingsPage& page, HWND window) {
+    SHMENUBARINFO info{};
+    info.cbSize = sizeof(info);
+    info.hwndParent = window;
+    info.dwFlags = SHCMBF_EMPTYBAR;
+    info.hInstRes = page.hInstance;
+    page.menuBar = SHCreateMenuBar(&info) ? info.hwndMB : nullptr;
+}
+
+LRESULT OnCreate(SettingsPage& page, HWND window) {
+    page.hwnd = window;
+    page.activateInfo = {};
+    page.activateInfo.cbSize = sizeof(page.activateInfo);
+    CreateEmptyMenuBar(page, window);
+    CreateTabStrip(page, window);
+    page.CreateControls(window);
+    page.ShowTab(window, SW_SHOW);
+    return 0;
+}
+
+void DestroyChild(HWND& window) {
+    if (window) DestroyWindow(window);
+    window = nullptr;
+}
+
+LRESULT OnDestroy(SettingsPage& page, HWND window, WPARAM wParam) {
+    page.SaveValues(window, wParam);
+    DestroyChild(page.tabStrip);
+    DestroyChild(page.menuBar);
+    if (page.imageList) ImageList_Destroy(page.imageList);
+    page.imageList = nullptr;
+    page.offscreen.reset();
+    return 0;
+}
+
+LRESULT OnPlaced(SettingsPage& page, HWND window) {
+    if (page.tabStrip) {
+        const StripPlace place = PlaceOfTabStrip(window);
+        MoveWindow(page.tabStrip, place.x, place.y, place.width, place.height, TRUE);
+    }
+    page.Layout(window);
+    return 0;
+}
+
+LRESULT OnNotification(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lParam) {
+    auto* header = reinterpret_cast<NMHDR*>(lParam);
+    switch (header->code) {
+    case TCN_SELCHANGING:
+        page.ShowTab(window, SW_HIDE);
+        break;
+    case TCN_SELCHANGE:
+        page.ShowTab(window, SW_SHOW);
+        break;
+    default:
+        page.OnNotify(window, WM_NOTIFY, wParam, header);
+    }
+    return 0;
+}
+
+LRESULT OnPageCommand(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) != IDOK) return page.OnCommand(window, WM_COMMAND, wParam, lParam);
+    // The main window closes and deletes the page inside this call: nothing may touch it after.
+    SendMessage(GetParent(window), kMessageClosePage, 0, 0);
+    return 0;
+}
+
+LRESULT Dispatch(SettingsPage& page, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CREATE:
+        return OnCreate(page, window);
+    case WM_DESTROY:
+        return OnDestroy(page, window, wParam);
+    case WM_NCDESTROY:
+        page.hwnd = nullptr;
+        break;
+    case WM_MOVE:
+    case WM_SIZE:
+        return OnPlaced(page, window);
+    case WM_ACTIVATE:
+        SHHandleWMActivate(window, wParam, lParam, &page.activateInfo, 0);
+        return 0;
+    case WM_PAINT:
+        return page.OnPaint(window, message, wParam, lParam);
+    case WM_SETTINGCHANGE:
+        SHHandleWMSettingChange(window, wParam, lParam, &page.activateInfo);
+        return 0;
+    case WM_DRAWITEM:
+        return page.OnDrawItem(window, message, wParam, lParam);
+    case WM_MEASUREITEM:
+        return page.OnMeasureItem(window, message, wParam, lParam);
+    case WM_NOTIFY:
+        return OnNotification(page, window, wParam, lParam);
+    case WM_COMMAND:
+        return OnPageCommand(page, window, wParam, lParam);
+    case WM_LBUTTONDOWN:
+        return page.OnLButtonDown(window, message, wParam, lParam);
+    case kMessageToolbarClick:
+        return page.OnToolbarClick(window, message, wParam, lParam);
+    case kMessageToolbarMenuSelect:
+        return page.OnToolbarMenuSelect(window, message, wParam, lParam);
+    default:
+        break;
+    }
+    return DefWindowProc(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK PageWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CREATE) {
+        const auto* create = reinterpret_cast<const CREATESTRUCT*>(lParam);
+        SetWindowLongPtr(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
+    }
+    // The messages that come before WM_CREATE find no page.
+    SettingsPage* page = PageOf(window);
+    if (!page) return DefWindowProc(window, message, wParam, lParam);
+    return Dispatch(*page, window, message, wParam, lParam);
+}
+} // namespace
+
+OffscreenSurface::~OffscreenSurface() {
+    if (previousObject) SelectObject(dc, previousObject);
+    if (previousBitmap) SelectObject(dc, previousBitmap);
+    if (bitmap) DeleteObject(bitmap);
+    if (dc) DeleteDC(dc);
+}
+
+LRESULT SettingsPage::OnPaint(HWND window, UINT, WPARAM, LPARAM) {
+    PAINTSTRUCT paint;
+    BeginPaint(window, &paint);
+    EndPaint(window, &paint);
+    return 0;
+}
+
+LRESULT SettingsPage::OnLButtonDown(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+LRESULT SettingsPage::OnDrawItem(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+LRESULT SettingsPage::OnMeasureItem(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+LRESULT SettingsPage::OnToolbarMenuSelect(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+LRESULT SettingsPage::OnToolbarClick(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+LRESULT SettingsPage::OnCommand(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+LRESULT SettingsPage::Layout(HWND) {
+    return 0;
+}
+
+LRESULT SettingsPage::OnNotify(HWND, UINT, WPARAM, NMHDR*) {
+    return 0;
+}
+
+SettingsPage::~SettingsPage() {
+    UnregisterClass(className.CStr(), hInstance);
+}
+
+int SettingsPage::CurrentTab() const {
+    return tabStrip ? static_cast<int>(SendMessage(tabStrip, TCM_GETCURSEL, 0, 0)) : 0;
+}
+
+void SettingsPage::DrawColourSample(HDC dc, COLORREF colour, int left, int top) const {
+    RECT box{left, top, left + Scale(kSampleWidth), top + ScaleY(kSampleHeight)};
+    FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    InflateRect(&box, -Scale(1), -ScaleY(1));
+    if (colour != kNoColour) {
+        const UniqueBrush brush(CreateSolidBrush(colour));
+        FillRect(dc, &box, brush.Get());
+        return;
+    }
+    FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    const SelectScope font(dc, normalFont);
+    SetBkMode(dc, TRANSPARENT);
+    DrawText(dc, LanguageText(IDS_COLOUR_NONE).CStr(), -1, &box,
+             DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+void CreatePageWindow(SettingsPage& page, HWND mainWindow, const wchar_t* className,
+                      HINSTANCE instance, HFONT normalFont, HFONT boldFont) {
+    page.tabStrip = nullptr;
+    page.offscreen.reset();
+    page.menuBar = nullptr;
+    page.imageList = nullptr;
+    page.className = className;
+    page.normalFont = normalFont;
+    page.boldFont = boldFont;
+    page.hInstance = instance;
+    // A failure means that the class is still there from an earlier opening, which serves as well.
+    RegisterWindowClass(instance, PageWindowProc, nullptr, className, WHITE_BRUSH);
+    RECT place{};
+    GetWindowRect(mainWindow, &place);
+    page.hwnd = CreateWindowEx(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), className, className,
+                               kPageStyle, place.left, place.top, place.right - place.left,
+                               place.bottom - place.top, mainWindow, nullptr, instance, &page);
+    if (!page.hwnd) return;
+    ShowWindow(page.hwnd, SW_SHOW);
+    UpdateWindow(page.hwnd);
+    FocusFirstControl(page.hwnd);
+}
+
+void ClosePage(SettingsPage& page) {
+    if (page.hwnd) DestroyWindow(page.hwnd);
+    page.hwnd = nullptr;
+}

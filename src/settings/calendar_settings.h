@@ -1,0 +1,90 @@
+#pragma once
+
+// Every value of the Calendar key, in load order. The dashboard maintains the values that are only
+// read here.
+// clang-format off
+#define CALENDAR_SETTINGS(Dword, Text, DwordAs, BitsAs)                 \
+    Dword(dNumOfDays, 7, Saved)                                         \
+    Dword(HideEmptyGroups, 1, Saved)                                    \
+    Dword(HideEmptyGroupsItem, 0, Saved)                                \
+    Dword(SEventsOnClr, 0, Saved)                                       \
+    Dword(FirstWeekInYear, 0, Saved)                                    \
+    Dword(ClrTextColor, 0, Saved)                                       \
+    Dword(ClrSortTsksWithAppts, 0, Saved)                               \
+    Dword(dAppoPassedToday, 0, Saved)                                   \
+    Dword(IncludeYearlyCounters, 1, Saved)                              \
+    Dword(LeadingRects, 1, Saved)                                       \
+    Dword(Conflicting, 1, Saved)                                        \
+    Dword(HideAlldayEventIcon, 0, Saved)                                \
+    Dword(IncldTasksInCR, 1, Saved)                                     \
+    Dword(IncldOverDueTsksInCR, 1, Saved)                               \
+    Dword(IncldFutureTsksInCR, 1, Saved)                                \
+    Dword(IncldUndatedTsksInCR, 0, Saved)                               \
+    Dword(DatesToIncldCmpltdTsksOnClr, 0, Saved)                        \
+    Dword(IncldPastCmpltdTsksInClndr, 0, Saved)                         \
+    Dword(FutureLimitTsksOnClr, 0, Saved)                               \
+    Dword(TasksSubsortOnCal, 0, Saved)                                  \
+    Dword(SkipActiveTsksWeekends, 0, Saved)                             \
+    Dword(DueDateTsksDateFrmt, 0, Saved)                                \
+    Dword(ShowActiveTsksOnCal, 1, Saved)                                \
+    Dword(PaintTsksBeforeAppts, 0, Saved)                               \
+    Dword(ConfirmTaskComplete, 0, Saved)                                \
+    Dword(DayTtlFrmt, 1, Saved)                                         \
+    Dword(dDayBreaker, 3, Saved)                                        \
+    Dword(TimeLines, 2, Saved)                                          \
+    Dword(ShowTomorrowTtl, 1, Saved)                                    \
+    DwordAs(CalendarIncldCounters, L"IncldCounters", 0, Saved)          \
+    Dword(UseSmartFolding, 1, Saved)                                    \
+    Dword(FoldingType, 2, Saved)                                        \
+    Dword(FilterFreeApptsFromTL, 0, Saved)                              \
+    Dword(ForceTodayTitleDsply, 0, Saved)                               \
+    Dword(AppendDateToTodayTtl, 0, Saved)                               \
+    Dword(AppendDaysCountTottl, 0, Saved)                               \
+    Dword(AppendWeekNumTottl, 0, Saved)                                 \
+    Dword(TimelinesStart, 0, Saved)                                     \
+    Dword(TimelinesLength, 18, Saved)                                   \
+    Dword(TimelinesVertZ, 1, Saved)                                     \
+    Dword(TimelinesHorZ, 1, Saved)                                      \
+    Dword(ApptLeftAlignIcon1, 0, Saved)                                 \
+    Dword(ApptLeftAlignIcon2, 0, Saved)                                 \
+    Dword(TaskLeftAlignIcon1, 0, Saved)                                 \
+    Dword(TaskLeftAlignIcon2, 0, Saved)                                 \
+    Dword(ClrApptRightIcons, 479, Saved)                                \
+    Dword(ClrTaskRightIcons, 383, Saved)                                \
+    Dword(ApptDisplayFormat, 6, Saved)                                  \
+    Dword(OnPopupMonthCalClick, 0, Saved)                               \
+    Dword(MonthlyPopupCalDateFrmt, 0, Saved)                            \
+    Dword(MonthlyStartDay, computed_defaults::FirstDayOfWeek, Saved)    \
+    Dword(FirstWorkDay, computed_defaults::FirstDayOfWeek, Saved)       \
+    Dword(MonthlyPopWithWeekNum, 0, Saved)                              \
+    Dword(MonthlyPopTimelines, 2, Saved)                                \
+    Dword(MonthlyPopCatIcons, 1, Saved)                                 \
+    Dword(MonthlyPopIconsSize, computed_defaults::MonthIconSize, Saved) \
+    Dword(PopupClrDPadNavigation, 2, Saved)                             \
+    Dword(PinnedMonthlyClr, 0, Saved)                                   \
+    Dword(IncludeMainOnCal, 0, Saved)                                   \
+    Dword(MailHideWhenZeroMsgs, 0, Saved)                               \
+    Dword(MailTitleFormat, 0, Saved)                                    \
+    Dword(MailSoftwareToUse, 0, Saved)                                  \
+    Text(MailCustomInboxStr, L"", Saved)                                \
+    Dword(HideMailTtlUnderToday, 0, Saved)                              \
+    Dword(ShowMailCounterOnTtl, 1, Saved)                               \
+    Dword(WeatehrLayout, 1, Saved)                                      \
+    Dword(WeatehrOnClick, 1, Saved)                                     \
+    Dword(Force2DigitsTImeFrmt, 0, Saved)                               \
+    Dword(SkinTodayWhenCollpsAll, 0, Saved)                             \
+    Dword(HumanTime, 0, Saved)                                          \
+    Dword(HideOverDueTsksDayTtl, 0, Saved)                              \
+    Dword(HideUndatedTsksDayTtl, 0, Saved)                              \
+    Text(CustomDayttlFrmtDefault, L"", Saved)                           \
+    Dword(CalTitlesOrder0, 0, Saved)                                    \
+    Dword(CalTitlesOrder1, 1, Saved)                                    \
+    Dword(CalTitlesOrder2, 2, Saved)                                    \
+    Dword(CalTitlesOrder3, 3, Saved)                                    \
+    Dword(CalTitlesOrder4, 4, Saved)                                    \
+    Dword(CalTitlesOrder5, 5, Saved)                                    \
+    Text(CalendarSelCategory, L"", ReadOnly)                            \
+    Dword(CalendarSelFilter, 0, ReadOnly)                               \
+    Text(CalendarRecentFilters, L"", ReadOnly)                          \
+    BitsAs(CalendarFoldState, L"FoldState", 125, ReadOnly)
+// clang-format on

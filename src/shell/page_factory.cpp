@@ -1,0 +1,65 @@
+#include "shell/page_factory.h"
+
+#include <new>
+
+#include "pages/general_page.h"
+#include "pages/outline_page.h"
+#include "resource_ids.h"
+#include "shell/services/application.h"
+
+namespace {
+struct PageEntry {
+    UINT caption;
+    const wchar_t* className;
+    SettingsPage* (*make)();
+};
+
+SettingsPage* MakeGeneral() {
+    return new (std::nothrow) GeneralPage;
+}
+
+template <UINT... titles>
+SettingsPage* MakeOutline() {
+    static constexpr UINT kTitles[] = {titles...};
+    return new (std::nothrow) OutlinePage(kTitles);
+}
+
+constexpr PageEntry kPages[kPageCount] = {
+    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakeGeneral},
+    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin",
+     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_CALENDAR_APPOINTMENTS, IDS_TAB_CALENDAR_TASKS,
+                 IDS_TAB_CALENDAR_DAY_TITLES, IDS_TAB_CALENDAR_ICONS, IDS_TAB_CALENDAR_MONTH,
+                 IDS_TAB_CALENDAR_MAIL, IDS_TAB_CALENDAR_WEATHER, IDS_TAB_MISCELLANEOUS>},
+    {IDS_PAGE_TASKS, L"TasksSettingsWin",
+     MakeOutline<IDS_TAB_TASKS_GENERAL, IDS_TAB_TITLES, IDS_TAB_TASKS_ICONS, IDS_TAB_TASKS_DATES>},
+    {IDS_PAGE_NOTES, L"NotesSettingsWin",
+     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
+    {IDS_PAGE_CONTACTS, L"ContactSettingsWin",
+     MakeOutline<IDS_TAB_CONTACTS_DISPLAY, IDS_TAB_CONTACTS_ACTIONS, IDS_TAB_CONTACTS_ALPHABETS>},
+    {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES>},
+    {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin",
+     MakeOutline<IDS_TAB_SEVENTS_DISPLAY, IDS_TAB_SEVENTS_FILTERS, IDS_TAB_TITLES>},
+    {IDS_PAGE_FONTS, L"FontSettingsWin", MakeOutline<IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEMS>},
+    {IDS_PAGE_COLOURS, L"ColorSettingsWin",
+     MakeOutline<IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES>},
+    {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
+    {IDS_PAGE_TABS, L"TabsSettingsWin",
+     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},
+    {IDS_PAGE_CATEGORY, L"CategorySettingsWin",
+     MakeOutline<IDS_TAB_CATEGORY_CATEGORIES, IDS_TAB_CATEGORY_FILTERS, IDS_TAB_MISCELLANEOUS>},
+};
+} // namespace
+
+UINT PageCaption(int row) {
+    return kPages[row].caption;
+}
+
+SettingsPage* CreatePage(HWND mainWindow, int row) {
+    if (row < 0 || row >= kPageCount) return nullptr;
+    const PageEntry& entry = kPages[row];
+    SettingsPage* page = entry.make();
+    if (!page) return nullptr;
+    CreatePageWindow(*page, mainWindow, entry.className, application.instance,
+                     application.normalFont, application.boldFont);
+    return page;
+}

@@ -1,0 +1,113 @@
+#include "shell/page_list.h"
+
+#include <algorithm>
+
+#include "resource_ids.h"
+#include "shell/page_factory.h"
+#include "shell/services/application.h"
+#include "shell/services/image_strip.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+
+namespace {
+constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_ICON | LVS_SINGLESEL |
+                             LVS_AUTOARRANGE | LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER;
+// The device's list views take the upper bit for their own gradient; a PC ignores it.
+constexpr DWORD kListExtendedStyle = 0x10000000 | LVS_EX_ONECLICKACTIVATE;
+constexpr COLORREF kImageMask = RGB(0, 255, 0);
+constexpr int kImageSize = 32;
+constexpr int kCaptionLimit = 512;
+
+RECT ClientOf(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return client;
+}
+
+void AddColumn(HWND list, int width) {
+    wchar_t title[] = L"List Column";
+    LVCOLUMN column{};
+    column.mask = LVCF_WIDTH | LVCF_TEXT;
+    column.cx = width;
+    column.pszText = title;
+    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+}
+} // namespace
+
+void PageList::Create(HWND parent) {
+    const RECT client = ClientOf(parent);
+    window_ = CreateWindowEx(0, WC_LISTVIEW, L"", kListStyle, 0, 0, client.right, client.bottom,
+                             parent, nullptr, application.instance, nullptr);
+    if (!window_) return;
+    SendMessage(window_, WM_SETFONT, reinterpret_cast<WPARAM>(application.boldFont), FALSE);
+    SendMessage(window_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, kListExtendedStyle);
+    images_ = LoadImageStrip(IDB_PAGE_LIST, Scale(kImageSize, true), kImageMask);
+    SendMessage(window_, LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Get()));
+    AddColumn(window_, client.right);
+    SpaceIcons();
+    AddRows();
+    SetFocus(window_);
+}
+
+void PageList::AddRows() {
+    for (int row = 0; row < kPageCount; ++row) {
+        const WideString caption = LanguageText(PageCaption(row));
+        LVITEM item{};
+        item.mask = LVIF_TEXT | LVIF_IMAGE;
+        item.iItem = row;
+        item.iImage = row;
+        item.pszText = const_cast<wchar_t*>(caption.CStr());
+        SendMessage(window_, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    LVITEM focus{};
+    focus.state = focus.stateMask = LVIS_FOCUSED;
+    SendMessage(window_, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&focus));
+}
+
+// The grid that shows all pages at once: as many columns as there is room for captions, and rows
+// that share the height.
+void PageList::SpaceIcons() const {
+    constexpr int kColumnWidth = 80;
+    // Not the list's own client area, which may be less a scroll bar that this makes superfluous.
+    const RECT client = ClientOf(GetParent(window_));
+    const int columns = std::max(1, static_cast<int>(client.right) / Scale(kColumnWidth));
+    const int rows = (kPageCount + columns - 1) / columns;
+    SendMessage(window_, LVM_SETICONSPACING, 0,
+                MAKELPARAM(client.right / columns, client.bottom / rows));
+    SendMessage(window_, LVM_ARRANGE, LVA_DEFAULT, 0);
+}
+
+void PageList::Place() {
+    if (!window_) return;
+    const RECT client = ClientOf(GetParent(window_));
+    // First the spacing: rows that do not fit for a moment would bring a scroll bar that stays.
+    SpaceIcons();
+    MoveWindow(window_, 0, 0, client.right, client.bottom, FALSE);
+    SendMessage(window_, LVM_ARRANGE, LVA_DEFAULT, 0);
+}
+
+void PageList::Destroy() {
+    if (!window_) return;
+    // A list view destroys the image list that it holds.
+    SendMessage(window_, LVM_SETIMAGELIST, LVSIL_NORMAL, 0);
+    DestroyWindow(window_);
+    window_ = nullptr;
+    images_.Reset();
+}
+
+int PageList::ActivatedRow(const NMHDR& header) const {
+    if (header.hwndFrom != window_ || header.code != LVN_ITEMACTIVATE) return -1;
+    // Enter sends a bare header without a row: the list itself knows which one it is.
+    return static_cast<int>(
+        SendMessage(window_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+WideString PageList::Caption(int row) const {
+    wchar_t text[kCaptionLimit] = L"";
+    LVITEM item{};
+    item.pszText = text;
+    item.cchTextMax = kCaptionLimit;
+    SendMessage(window_, LVM_GETITEMTEXT, static_cast<WPARAM>(row),
+                reinterpret_cast<LPARAM>(&item));
+    return WideString(text);
+}

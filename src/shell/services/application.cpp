@@ -1,0 +1,3 @@
+#include "shell/services/application.h"
+
+Application application;

@@ -1,0 +1,200 @@
+#include "ui/key_navigation.h"
+
+#include <commctrl.h>
+
+namespace {
+enum class ControlKind { Other, Button, Combo, Edit, ListView, ListBox, TabStrip };
+
+ControlKind KindOf(HWND control) {
+    constexpr struct {
+        const wchar_t* className;
+        ControlKind kind;
+    } kClasses[] = {
+        {L"Button", ControlKind::Button},   {L"ComboBox", ControlKind::Combo},
+        {L"Edit", ControlKind::Edit},       {WC_LISTVIEW, ControlKind::ListView},
+        {L"ListBox", ControlKind::ListBox}, {WC_TABCONTROL, ControlKind::TabStrip},
+    };
+    wchar_t name[64];
+    if (!GetClassName(control, name, 64)) return ControlKind::Other;
+    for (const auto& entry : kClasses) {
+        if (lstrcmpi(name, entry.className) == 0) return entry.kind;
+    }
+    return ControlKind::Other;
+}
+
+// The control of `root` that a window is or belongs to: an edit field inside a combo box stands
+// for the combo box. Null for a window outside.
+HWND ControlOf(HWND root, HWND window) {
+    while (window && GetParent(window) != root)
+        window = GetParent(window);
+    return window;
+}
+
+bool TakesFocus(HWND control) {
+    const auto style = static_cast<DWORD>(GetWindowLong(control, GWL_STYLE));
+    if (!(style & WS_VISIBLE) || (style & WS_DISABLED)) return false;
+    return (style & WS_TABSTOP) || KindOf(control) == ControlKind::TabStrip;
+}
+
+HWND NextInRing(HWND root, HWND control, bool forward) {
+    HWND next = GetWindow(control, forward ? GW_HWNDNEXT : GW_HWNDPREV);
+    return next ? next : GetWindow(GetWindow(root, GW_CHILD), forward ? GW_HWNDFIRST : GW_HWNDLAST);
+}
+
+// A list without a focused row would show no focus at all.
+void FocusFirstRow(HWND list) {
+    if (SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) >= 0) return;
+    LVITEM item{};
+    item.state = item.stateMask = LVIS_FOCUSED;
+    SendMessage(list, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+void GiveFocus(HWND control) {
+    SetFocus(control);
+    const ControlKind kind = KindOf(control);
+    if (kind == ControlKind::ListView) FocusFirstRow(control);
+    // A field entered by key is typed over, as everywhere on the device.
+    if (kind == ControlKind::Edit) SendMessage(control, EM_SETSEL, 0, -1);
+}
+
+void MoveFocus(HWND root, HWND control, bool forward) {
+    for (HWND next = NextInRing(root, control, forward); next && next != control;
+         next = NextInRing(root, next, forward)) {
+        if (TakesFocus(next)) {
+            GiveFocus(next);
+            return;
+        }
+    }
+}
+
+void SwitchTab(HWND strip, bool forward) {
+    const auto count = static_cast<int>(SendMessage(strip, TCM_GETITEMCOUNT, 0, 0));
+    const auto current = static_cast<int>(SendMessage(strip, TCM_GETCURSEL, 0, 0));
+    if (count < 2) return;
+    const int next = (current + (forward ? 1 : count - 1)) % count;
+    // TCM_SETCURFOCUS notifies the page as a tap does; TCM_SETCURSEL would not.
+    SendMessage(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(next), 0);
+}
+
+HWND FindTabStrip(HWND root) {
+    HWND child = GetWindow(root, GW_CHILD);
+    while (child && KindOf(child) != ControlKind::TabStrip)
+        child = GetWindow(child, GW_HWNDNEXT);
+    return child;
+}
+
+// Left and Right on a closed drop-down list; its window tells the page as after a choice by tap.
+void StepCombo(HWND root, HWND combo, bool forward) {
+    const auto count = static_cast<int>(SendMessage(combo, CB_GETCOUNT, 0, 0));
+    const auto current = static_cast<int>(SendMessage(combo, CB_GETCURSEL, 0, 0));
+    const int next = forward ? current + 1 : current - 1;
+    if (next < 0 || next >= count) return;
+    SendMessage(combo, CB_SETCURSEL, static_cast<WPARAM>(next), 0);
+    const auto id = static_cast<UINT>(GetDlgCtrlID(combo));
+    SendMessage(root, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+}
+
+bool IsDropped(HWND control) {
+    return KindOf(control) == ControlKind::Combo && SendMessage(control, CB_GETDROPPEDSTATE, 0, 0);
+}
+
+// The row of a list that Up (or Down) cannot leave any further: its first (or last).
+bool IsAtListEdge(HWND list, bool forward) {
+    const bool isListBox = KindOf(list) == ControlKind::ListBox;
+    const auto count =
+        static_cast<int>(SendMessage(list, isListBox ? LB_GETCOUNT : LVM_GETITEMCOUNT, 0, 0));
+    if (count < 1) return true;
+    const auto row = static_cast<int>(
+        isListBox ? SendMessage(list, LB_GETCARETINDEX, 0, 0)
+                  : SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
+    if (isListBox) return row == (forward ? count - 1 : 0);
+    if (row < 0) return false;
+    // Some list views name a row past the last one instead of none.
+    const auto next = static_cast<int>(SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(row),
+                                                   forward ? LVNI_BELOW : LVNI_ABOVE));
+    return next < 0 || next >= count;
+}
+
+bool OnUpOrDown(HWND root, HWND control, bool forward) {
+    const ControlKind kind = KindOf(control);
+    const bool isList = kind == ControlKind::ListView || kind == ControlKind::ListBox;
+    if (kind == ControlKind::Other || (isList && !IsAtListEdge(control, forward))) return false;
+    MoveFocus(root, control, forward);
+    return true;
+}
+
+bool OnLeftOrRight(HWND root, HWND control, HWND focus, bool forward) {
+    switch (KindOf(control)) {
+    case ControlKind::TabStrip:
+        SwitchTab(control, forward);
+        return true;
+    case ControlKind::Combo:
+        if (focus != control) return false; // The keys move the caret of its edit field.
+        StepCombo(root, control, forward);
+        return true;
+    case ControlKind::Button:
+        MoveFocus(root, control, forward);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool OnEnter(HWND control) {
+    switch (KindOf(control)) {
+    case ControlKind::Button:
+        SendMessage(control, BM_CLICK, 0, 0);
+        return true;
+    case ControlKind::Combo:
+        SendMessage(control, CB_SHOWDROPDOWN, TRUE, 0);
+        return true;
+    case ControlKind::Edit:
+        return true; // A single line has no use for it but a beep.
+    default:
+        return false;
+    }
+}
+
+bool OnTab(HWND root, HWND control) {
+    const bool forward = GetKeyState(VK_SHIFT) >= 0;
+    HWND strip = GetKeyState(VK_CONTROL) < 0 ? FindTabStrip(root) : nullptr;
+    if (strip)
+        SwitchTab(strip, forward);
+    else
+        MoveFocus(root, control, forward);
+    return true;
+}
+} // namespace
+
+bool TranslateNavigationKey(HWND root, const MSG& message) {
+    if (message.message != WM_KEYDOWN || !root) return false;
+    HWND control = ControlOf(root, message.hwnd);
+    if (!control) return false;
+    if (message.wParam == VK_TAB) return OnTab(root, control);
+    if (IsDropped(control)) return false; // The open list has the keys.
+    switch (message.wParam) {
+    case VK_UP:
+    case VK_DOWN:
+        return OnUpOrDown(root, control, message.wParam == VK_DOWN);
+    case VK_LEFT:
+    case VK_RIGHT:
+        return OnLeftOrRight(root, control, message.hwnd, message.wParam == VK_RIGHT);
+    case VK_RETURN:
+        return OnEnter(control);
+    default:
+        return false;
+    }
+}
+
+void FocusFirstControl(HWND root) {
+    HWND strip = nullptr;
+    for (HWND child = GetWindow(root, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (!TakesFocus(child)) continue;
+        if (KindOf(child) != ControlKind::TabStrip) {
+            GiveFocus(child);
+            return;
+        }
+        strip = child;
+    }
+    if (strip) SetFocus(strip);
+}

@@ -1,0 +1,185 @@
+// The installed program, worked from outside: real taps, real keys, the device's own registry.
+#include "tests/device/program_driver.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/window_support.h"
+
+namespace {
+constexpr wchar_t kGeneral[] = L"GeneralSettingsWin";
+constexpr int kGeneralRow = 0;
+
+class Outside : public testing::Test {
+  protected:
+    void SetUp() override { DeleteSettings(); }
+};
+
+// First, while the sample's registry is still as it was installed.
+TEST(SampleDevice, ABareOkChangesNothingButTheTabNumbers) {
+    const RegistryTree before = SettingsTree();
+    ASSERT_GT(before.size(), 100u) << "the sample registry";
+    Program program;
+    ASSERT_TRUE(program.WaitForPageList());
+    TapOk();
+    EXPECT_EQ(program.WaitForExit(), 0u);
+    RegistryTree after = SettingsTree();
+    for (const auto& [name, value] : before) {
+        if (name.find(L"TabOrder") != std::wstring::npos ||
+            name.find(L"\\Order") != std::wstring::npos)
+            continue;
+        EXPECT_EQ(after[name], value) << std::string(name.begin(), name.end());
+    }
+}
+
+TEST_F(Outside, ChangesByTapsAreSavedAndTold) {
+    SetNumber(HKEY_CURRENT_USER, kSettingsKey, L"OnClick", 2);
+    SetNumber(HKEY_CURRENT_USER, kSettingsKey, L"GoofyMode", 1);
+    DashboardListener dashboard;
+    std::optional<uint32_t> soundWhenTold;
+    dashboard.onTold = [&] { soundWhenTold = StoredNumber(L"EnableSoundEffect"); };
+    Program program;
+    ASSERT_TRUE(program.WaitForPageList());
+    HWND page = program.OpenPage(kGeneralRow, kGeneral);
+    ASSERT_NE(page, nullptr);
+    // OnClick back to its default, by keys; AutoHeight off, by a tap.
+    ASSERT_TRUE(WaitUntil([&] { return SendDlgItemMessage(page, 1201, CB_GETCURSEL, 0, 0) == 2; }));
+    Press(VK_LEFT);
+    Press(VK_LEFT);
+    EXPECT_TRUE(WaitUntil([&] { return SendDlgItemMessage(page, 1201, CB_GETCURSEL, 0, 0) == 0; }));
+    TapOn(GetDlgItem(page, 1206));
+    EXPECT_TRUE(WaitUntil([&] { return IsDlgButtonChecked(page, 1206) == 0; }));
+    // The second tab: sound off, goofy mode back to its default.
+    HWND strip = FindWindowEx(page, nullptr, WC_TABCONTROL, nullptr);
+    Press(VK_UP);
+    Press(VK_RIGHT);
+    ASSERT_TRUE(WaitUntil([&] { return SendMessage(strip, TCM_GETCURSEL, 0, 0) == 1; }));
+    ASSERT_TRUE(WaitUntil([&] { return IsWindowVisible(GetDlgItem(page, 1217)) != FALSE; }));
+    TapOn(GetDlgItem(page, 1217));
+    TapOn(GetDlgItem(page, 1218));
+    EXPECT_TRUE(WaitUntil([&] { return IsDlgButtonChecked(page, 1218) == 0; }));
+    TapOk();
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+    EXPECT_FALSE(StoredNumber(L"EnableSoundEffect")) << "written by the page's OK";
+    TapOk();
+    EXPECT_EQ(program.WaitForExit(), 0u);
+    EXPECT_TRUE(WaitUntil([&] {
+        dashboard.Listen();
+        return dashboard.timesTold > 0;
+    }));
+    Sleep(200);
+    dashboard.Listen();
+    EXPECT_EQ(dashboard.timesTold, 1);
+    EXPECT_EQ(soundWhenTold, 0u) << "told before the values were written";
+    EXPECT_EQ(StoredNumber(L"AutoHeight"), 0u);
+    EXPECT_FALSE(StoredNumber(L"OnClick")) << "a default is deleted";
+    EXPECT_FALSE(StoredNumber(L"GoofyMode"));
+}
+
+TEST_F(Outside, CancelAsksFirst) {
+    DashboardListener dashboard;
+    Program program;
+    HWND window = program.WaitForPageList();
+    HWND page = program.OpenPage(kGeneralRow, kGeneral);
+    ASSERT_NE(page, nullptr);
+    TapOn(GetDlgItem(page, 1206));
+    TapOk();
+    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+
+    PostMessage(window, WM_COMMAND, IDCANCEL, 0);
+    HWND question = program.WaitForMessageBox();
+    ASSERT_NE(question, nullptr);
+    TapOn(GetDlgItem(question, IDNO));
+    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(question); }));
+    EXPECT_TRUE(program.IsRunning());
+    // The keys work again, and the change is still in the store.
+    Press(VK_RETURN);
+    page = program.WaitForWindow(kGeneral);
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(IsDlgButtonChecked(page, 1206), 0u);
+    TapOk();
+    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+
+    PostMessage(window, WM_COMMAND, IDCANCEL, 0);
+    question = program.WaitForMessageBox();
+    ASSERT_NE(question, nullptr);
+    TapOn(GetDlgItem(question, IDYES));
+    EXPECT_EQ(program.WaitForExit(), 0u);
+    dashboard.Listen();
+    EXPECT_EQ(dashboard.timesTold, 0);
+    EXPECT_FALSE(StoredNumber(L"AutoHeight"));
+}
+
+TEST_F(Outside, ASecondStartBringsTheFirstForward) {
+    Program first;
+    HWND window = first.WaitForPageList();
+    for (const bool withPage : {false, true}) {
+        HWND front = withPage ? first.OpenPage(kGeneralRow, kGeneral) : window;
+        ASSERT_NE(front, nullptr);
+        HWND cover = CreateWindowEx(WS_EX_TOPMOST, L"Static", L"cover", WS_POPUP | WS_VISIBLE, 0, 0,
+                                    100, 100, nullptr, nullptr, nullptr, nullptr);
+        SetForegroundWindow(cover);
+        PumpMessages();
+        Program second;
+        EXPECT_EQ(second.WaitForExit(), 0u);
+        EXPECT_TRUE(WaitUntil([&] {
+            PumpMessages();
+            return GetForegroundWindow() == front;
+        })) << withPage;
+        DestroyWindow(cover);
+        EXPECT_TRUE(first.IsRunning());
+    }
+}
+
+TEST_F(Outside, AboutOpensForExactlyThatWord) {
+    {
+        Program program(L"About");
+        HWND about = program.WaitForWindow(L"AboutWin");
+        ASSERT_NE(about, nullptr);
+        TapOn(GetDlgItem(about, IDOK));
+        EXPECT_TRUE(WaitUntil([&] { return !IsWindow(about); }));
+        EXPECT_TRUE(program.WaitForPageList());
+        TapOk();
+        EXPECT_EQ(program.WaitForExit(), 0u);
+    }
+    for (const wchar_t* word : {L"about", L"About x"}) {
+        Program program(word);
+        ASSERT_TRUE(program.WaitForPageList());
+        EXPECT_EQ(FindWindow(L"AboutWin", nullptr), nullptr);
+    }
+}
+
+TEST_F(Outside, StartsWithoutItsLibraries) {
+    const std::wstring folder(kInstallFolder);
+    const std::wstring languages = folder + L"\\LangRes";
+    const std::wstring display = folder + L"\\LowDpiRes.dll";
+    ASSERT_TRUE(MoveFile(languages.c_str(), (languages + L"Away").c_str()));
+    ASSERT_TRUE(MoveFile(display.c_str(), (display + L".away").c_str()));
+    {
+        Program program;
+        EXPECT_TRUE(program.WaitForPageList());
+        TapOk();
+        EXPECT_EQ(program.WaitForExit(), 0u);
+    }
+    EXPECT_TRUE(MoveFile((languages + L"Away").c_str(), languages.c_str()));
+    EXPECT_TRUE(MoveFile((display + L".away").c_str(), display.c_str()));
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kSettingsKey, L"SelectedLangResFile"));
+}
+
+TEST_F(Outside, SpeaksTheChosenLanguageAtTheNextStart) {
+    for (const wchar_t* title : {L"General", L"Allgemein"}) {
+        Program program;
+        HWND window = program.WaitForPageList();
+        HWND page = program.OpenPage(kGeneralRow, kGeneral);
+        ASSERT_NE(page, nullptr);
+        EXPECT_EQ(TextOf(window), title);
+        HWND languages = GetDlgItem(page, 1216);
+        EXPECT_EQ(SendMessage(languages, CB_GETCOUNT, 0, 0), 2);
+        SendMessage(languages, CB_SETCURSEL, 1, 0);
+        TapOk();
+        ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+        TapOk();
+        EXPECT_EQ(program.WaitForExit(), 0u);
+    }
+}
+} // namespace

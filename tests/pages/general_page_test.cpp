@@ -1,0 +1,297 @@
+#include "pages/general_page.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/include/stand_in.h"
+#include "settings/settings_store.h"
+#include "shell/page_factory.h"
+#include "shell/services/application.h"
+#include "shell/services/scaling.h"
+#include "tests/support/registry_fixture.h"
+#include "tests/support/window_support.h"
+
+namespace {
+constexpr wchar_t kProgramFiles[] = L"\\GeneralPageTest";
+constexpr wchar_t kLanguageFolder[] = L"\\GeneralPageTest\\Teskel\\Orvane\\LangRes";
+constexpr wchar_t kInstalled[] = L"\\Program Files\\Teskel\\Orvane";
+
+std::wstring InLanguageFolder(const wchar_t* name) {
+    return std::wstring(kLanguageFolder) + L"\\" + name;
+}
+
+void CopyInstalled(const wchar_t* from, const wchar_t* to) {
+    ASSERT_TRUE(
+        CopyFile((std::wstring(kInstalled) + from).c_str(), InLanguageFolder(to).c_str(), FALSE))
+        << from;
+}
+
+// The page over a main window of the screen's size, with its own language folder.
+class GeneralPageTest : public RegistryFixture {
+  protected:
+    void SetUp() override {
+        RegistryFixture::SetUp();
+        application.instance = GetModuleHandle(nullptr);
+        CreateDirectory(kProgramFiles, nullptr);
+        CreateDirectory(L"\\GeneralPageTest\\Teskel", nullptr);
+        CreateDirectory(L"\\GeneralPageTest\\Teskel\\Orvane", nullptr);
+        CreateDirectory(kLanguageFolder, nullptr);
+        SetText(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Orvane", L"ProgramFiles",
+                kProgramFiles);
+        owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
+                                Scale(268), nullptr, nullptr, application.instance, nullptr);
+    }
+
+    void TearDown() override {
+        DestroyWindow(owner_);
+        if (application.languageLibrary) FreeLibrary(application.languageLibrary);
+        application.languageLibrary = nullptr;
+        for (const wchar_t* name : {L"Aaa.dll", L"Bbb.dll", L"Ccc.dll"})
+            DeleteFile(InLanguageFolder(name).c_str());
+        StandInSetOsVersion(0, 0);
+        RegistryFixture::TearDown();
+    }
+
+    // Loads the store as at start, opens the page, and gives its window.
+    HWND Open() {
+        settingsStore.Load(application.languageLibrary);
+        page_.reset(CreatePage(owner_, 0));
+        EXPECT_TRUE(page_ && page_->hwnd);
+        return page_->hwnd;
+    }
+
+    void Close() {
+        ClosePage(*page_);
+        page_.reset();
+    }
+
+    bool IsEnabled(int id) const { return IsWindowEnabled(GetDlgItem(page_->hwnd, id)); }
+
+    HWND owner_ = nullptr;
+    std::unique_ptr<SettingsPage> page_;
+};
+
+constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
+
+TEST_F(GeneralPageTest, ChangesReachTheStoreAndDefaultsLeaveTheRegistry) {
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"OnClick", 2);
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"GoofyMode", 1);
+    HWND window = Open();
+    EXPECT_EQ(SendDlgItemMessage(window, 1201, CB_GETCURSEL, 0, 0), 2);
+    EXPECT_EQ(IsDlgButtonChecked(window, 1218), 1u);
+    Choose(window, 1201, 0);
+    Tap(window, 1218);
+    Tap(window, 1206);
+    SetDlgItemText(window, 1208, L"333");
+    SetDlgItemText(window, 1210, L"010");
+    SetDlgItemText(window, 1212, L"\\My Documents\\Skin");
+    Choose(window, 1240, 5);
+    Close();
+    EXPECT_EQ(settingsStore.OnClick.value, 0u);
+    EXPECT_EQ(settingsStore.dHeightLimit.value, 333u);
+    EXPECT_EQ(settingsStore.dHeightLimitLandscape.value, 8u) << "a leading 0 is octal";
+    EXPECT_EQ(settingsStore.LoadingDelay.value, 5u);
+
+    settingsStore.Save();
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"OnClick"));
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode"));
+    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"AutoHeight"), 0u);
+    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"dHeightLimit"), 333u);
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"dHeightLimitLandscape")) << "8 is below 60";
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kRoot, L"SkinPath"), L"\\My Documents\\Skin");
+    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"LoadingDelay"), 5u);
+}
+
+// Every number of the page, each by the control that edits it: two that were swapped would show.
+TEST_F(GeneralPageTest, EveryControlShowsAndSavesItsOwnSetting) {
+    struct Row {
+        int id;
+        const wchar_t* name;
+        bool isCombo;
+        uint32_t stored;
+        uint32_t chosen;
+    };
+    const Row rows[] = {
+        {1201, L"OnClick", true, 1, 2},
+        {1203, L"OnDoubleClick", true, 2, 1},
+        {1217, L"EnableSoundEffect", false, 0, 1},
+        {1218, L"GoofyMode", false, 1, 0},
+        {1219, L"IndentItems", false, 1, 0},
+        {1221, L"FilterTtlAlign", true, 2, 1},
+        {1222, L"RemoveTabsBar", false, 1, 0},
+        {1223, L"RemoveSettingsButton", false, 1, 0},
+        {1224, L"RemoveSeparatingLine", false, 0, 1},
+        {1225, L"DPadEnabled", false, 0, 1},
+        {1227, L"DPadMode", true, 1, 0},
+        {1229, L"DPadCompleteAction", true, 0, 1},
+        {1231, L"DPadScrollingAction", true, 2, 1},
+        {1232, L"DPadDoubleClickTabSwitching", false, 1, 0},
+        {1233, L"ExclusiveDPadNavig", false, 1, 0},
+        {1234, L"UseDoubleClickScroll", false, 0, 1},
+        {1235, L"UseFullScrollings", false, 0, 1},
+        {1238, L"RemoveHighlight", false, 1, 0},
+        {1240, L"LoadingDelay", true, 3, 4},
+    };
+    for (const Row& changed : rows) {
+        for (const Row& row : rows)
+            SetNumber(HKEY_CURRENT_USER, kRoot, row.name, row.stored);
+        HWND window = Open();
+        for (const Row& row : rows) {
+            EXPECT_EQ(
+                SendDlgItemMessage(window, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
+                static_cast<LRESULT>(row.stored))
+                << row.id;
+        }
+        if (changed.isCombo)
+            Choose(window, changed.id, static_cast<int>(changed.chosen));
+        else
+            SendDlgItemMessage(window, changed.id, BM_SETCHECK, changed.chosen, 0);
+        Close();
+        settingsStore.Save();
+        settingsStore.Load(application.languageLibrary);
+        Open();
+        for (const Row& row : rows) {
+            EXPECT_EQ(SendDlgItemMessage(page_->hwnd, row.id,
+                                         row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
+                      static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
+                << row.id << " after " << changed.id;
+        }
+        Close();
+    }
+}
+
+TEST_F(GeneralPageTest, ShowsOneTabAtATime) {
+    HWND window = Open();
+    const int oneOfEachTab[] = {1206, 1217, 1222, 1225, 1234};
+    for (int tab = 0; tab < 5; ++tab) {
+        SendMessage(page_->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+        for (int other = 0; other < 5; ++other) {
+            EXPECT_EQ(IsWindowVisible(GetDlgItem(window, oneOfEachTab[other])), tab == other)
+                << tab;
+        }
+    }
+    Close();
+}
+
+TEST_F(GeneralPageTest, OffersHeightsAndKeepsOthers) {
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"dHeightLimit", 77);
+    HWND window = Open();
+    HWND portrait = GetDlgItem(window, 1208);
+    HWND landscape = GetDlgItem(window, 1210);
+    EXPECT_EQ(SendMessage(portrait, CB_GETCOUNT, 0, 0), 27);
+    EXPECT_EQ(EntriesOf(portrait).find(L"80|100|120|"), 0u);
+    EXPECT_EQ(EntriesOf(landscape).find(L"0|80|100|"), 0u);
+    EXPECT_NE(EntriesOf(landscape).find(L"|580|600"), std::wstring::npos);
+    EXPECT_EQ(TextOf(portrait), L"77");
+    SetWindowText(landscape, L"0x1F4");
+    SetWindowText(portrait, L"tall");
+    Close();
+    EXPECT_EQ(settingsStore.dHeightLimitLandscape.value, 500u);
+    EXPECT_EQ(settingsStore.dHeightLimit.value, 0u);
+}
+
+TEST_F(GeneralPageTest, EnablesByItsRules) {
+    HWND window = Open();
+    for (int id = 1207; id <= 1210; ++id)
+        EXPECT_FALSE(IsEnabled(id)) << id;
+    Tap(window, 1206);
+    for (int id = 1207; id <= 1210; ++id)
+        EXPECT_TRUE(IsEnabled(id)) << id;
+
+    const auto expect = [this](bool mode, bool complete, bool scrolling, bool exclusive) {
+        EXPECT_EQ(IsEnabled(1226), mode);
+        EXPECT_EQ(IsEnabled(1227), mode);
+        for (int id : {1228, 1229, 1232})
+            EXPECT_EQ(IsEnabled(id), complete) << id;
+        for (int id : {1230, 1231})
+            EXPECT_EQ(IsEnabled(id), scrolling) << id;
+        EXPECT_EQ(IsEnabled(1233), exclusive);
+    };
+    expect(true, true, false, true);
+    Choose(window, 1227, 1);
+    expect(true, false, true, true);
+    Tap(window, 1225);
+    expect(false, false, false, false);
+    Close();
+}
+
+TEST_F(GeneralPageTest, SavesDisabledHeightsAsShown) {
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"dHeightLimit", 240);
+    Open();
+    EXPECT_FALSE(IsEnabled(1208));
+    Close();
+    EXPECT_EQ(settingsStore.dHeightLimit.value, 240u);
+    EXPECT_TRUE(settingsStore.dHeightLimit.changed);
+}
+
+TEST_F(GeneralPageTest, ShowsNothingForAnIndexOutOfRange) {
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"DPadCompleteAction", 9);
+    HWND window = Open();
+    EXPECT_EQ(SendDlgItemMessage(window, 1229, CB_GETCURSEL, 0, 0), -1);
+    Close();
+    EXPECT_EQ(settingsStore.DPadCompleteAction.value, 0xFFFFFFFFu);
+}
+
+TEST_F(GeneralPageTest, HasWhatThePlatformOffers) {
+    struct Version {
+        DWORD major;
+        DWORD minor;
+        bool hasExclusiveDPad;
+    };
+    for (const Version& version :
+         {Version{3, 0, false}, {4, 20, false}, {4, 21, true}, {5, 1, true}}) {
+        StandInSetOsVersion(version.major, version.minor);
+        SetNumber(HKEY_CURRENT_USER, kRoot, L"ExclusiveDPadNavig", 1);
+        HWND window = Open();
+        EXPECT_EQ(GetDlgItem(window, 1233) != nullptr, version.hasExclusiveDPad) << version.major;
+        const bool wide = GetSystemMetrics(SM_CXSCREEN) >= 480;
+        EXPECT_EQ(GetDlgItem(window, 1236) != nullptr, wide);
+        EXPECT_EQ(GetDlgItem(window, 1237) != nullptr, wide);
+        Close();
+        EXPECT_EQ(settingsStore.ExclusiveDPadNavig.changed, version.hasExclusiveDPad);
+        EXPECT_EQ(settingsStore.ExclusiveDPadNavig.value, 1u);
+    }
+}
+
+TEST_F(GeneralPageTest, ListsLanguagesAndSelectsTheCurrentOne) {
+    CopyInstalled(L"\\LangRes\\OVEngRc.dll", L"Aaa.dll");
+    CopyInstalled(L"\\LangRes\\OVGerRc.dll", L"Bbb.dll");
+    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", InLanguageFolder(L"Bbb.dll").c_str());
+    HWND window = Open();
+    EXPECT_EQ(EntriesOf(GetDlgItem(window, 1216)), L"English|Deutsch");
+    EXPECT_EQ(SendDlgItemMessage(window, 1216, CB_GETCURSEL, 0, 0), 1);
+    Choose(window, 1216, 0);
+    Close();
+    EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), InLanguageFolder(L"Aaa.dll"));
+}
+
+TEST_F(GeneralPageTest, ANamelessLibraryShiftsThePaths) {
+    CopyInstalled(L"\\LowDpiRes.dll", L"Aaa.dll"); // Loads, but has no texts.
+    CopyInstalled(L"\\LangRes\\OVEngRc.dll", L"Bbb.dll");
+    CopyInstalled(L"\\LangRes\\OVGerRc.dll", L"Ccc.dll");
+    HWND window = Open();
+    EXPECT_EQ(EntriesOf(GetDlgItem(window, 1216)), L"English|Deutsch");
+    Choose(window, 1216, 1);
+    Close();
+    EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), InLanguageFolder(L"Bbb.dll"));
+}
+
+TEST_F(GeneralPageTest, KeepsTheLanguageWhenThereIsNone) {
+    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", L"\\Lost.dll");
+    Open();
+    Close();
+    EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), std::wstring(L"\\Lost.dll"));
+}
+
+TEST_F(GeneralPageTest, ClearsAndBrowsesTheSkinPath) {
+    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", L"\\Old");
+    HWND window = Open();
+    EXPECT_EQ(TextOf(GetDlgItem(window, 1212)), L"\\Old");
+    Tap(window, 1213);
+    EXPECT_EQ(TextOf(GetDlgItem(window, 1212)), L"");
+    Close();
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"SkinPath") &&
+                 settingsStore.SkinPath.value.Length());
+}
+} // namespace

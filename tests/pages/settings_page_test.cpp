@@ -1,0 +1,197 @@
+#include "pages/settings_page.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "shell/services/application.h"
+#include "shell/services/scaling.h"
+#include "tests/support/window_support.h"
+
+namespace {
+constexpr wchar_t kOwnerClass[] = L"PageTestOwner";
+constexpr wchar_t kPageClass[] = L"PageTestWin";
+constexpr RECT kOwnerPlace{10, 40, 210, 260};
+
+// Writes down which operations the host calls, in order.
+class RecordingPage : public SettingsPage {
+  public:
+    explicit RecordingPage(int tabs) : tabs_(tabs) {}
+
+    int GetTabCount() const override { return tabs_; }
+    UINT GetTabTitleId(int) const override { return 0; }
+    void CreateControls(HWND) override {
+        log += tabStrip || !tabs_ ? "Create " : "CreateBeforeStrip ";
+    }
+    void ShowTab(HWND, int command) override {
+        log += (command == SW_SHOW ? "Show" : "Hide") + std::to_string(CurrentTab()) + " ";
+    }
+    void SaveValues(HWND window, WPARAM) override {
+        log += IsWindow(window) && (tabStrip || !tabs_) && menuBar ? "Save " : "SaveTooLate ";
+    }
+    LRESULT OnCommand(HWND, UINT, WPARAM wParam, LPARAM) override {
+        log += "Command" + std::to_string(LOWORD(wParam)) + " ";
+        return 0;
+    }
+    LRESULT OnToolbarClick(HWND, UINT, WPARAM, LPARAM id) override {
+        log += "Click" + std::to_string(id) + " ";
+        return 0;
+    }
+    LRESULT OnToolbarMenuSelect(HWND, UINT, WPARAM value, LPARAM id) override {
+        log += "Select" + std::to_string(value) + "," + std::to_string(id) + " ";
+        return 0;
+    }
+    LRESULT Layout(HWND) override {
+        log += "Layout ";
+        return 0;
+    }
+    LRESULT OnNotify(HWND, UINT, WPARAM, NMHDR*) override {
+        log += "Notify ";
+        return 1;
+    }
+    using SettingsPage::DrawColourSample;
+
+    std::string log;
+
+  private:
+    int tabs_;
+};
+
+int closeRequests;
+
+LRESULT CALLBACK OwnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == kMessageClosePage) ++closeRequests;
+    return DefWindowProc(window, message, wParam, lParam);
+}
+
+class PageHost : public testing::Test {
+  protected:
+    void SetUp() override {
+        application.instance = GetModuleHandle(nullptr);
+        WNDCLASS ownerClass{};
+        ownerClass.lpfnWndProc = OwnerProc;
+        ownerClass.lpszClassName = kOwnerClass;
+        RegisterClass(&ownerClass);
+        owner_ = CreateWindowEx(0, kOwnerClass, L"", WS_POPUP | WS_VISIBLE, kOwnerPlace.left,
+                                kOwnerPlace.top, kOwnerPlace.right - kOwnerPlace.left,
+                                kOwnerPlace.bottom - kOwnerPlace.top, nullptr, nullptr,
+                                application.instance, nullptr);
+        closeRequests = 0;
+    }
+    void TearDown() override { DestroyWindow(owner_); }
+
+    void Open(SettingsPage& page) {
+        CreatePageWindow(page, owner_, kPageClass, application.instance, nullptr, nullptr);
+        ASSERT_NE(page.hwnd, nullptr);
+        PumpMessages();
+    }
+
+    HWND owner_ = nullptr;
+};
+
+TEST_F(PageHost, OpensOverTheMainWindowAndCallsTheOperationsInOrder) {
+    RecordingPage page(2);
+    Open(page);
+    RECT place{};
+    GetWindowRect(page.hwnd, &place);
+    EXPECT_TRUE(EqualRect(&place, &kOwnerPlace));
+    EXPECT_EQ(TextOf(page.hwnd), kPageClass);
+    EXPECT_EQ(static_cast<DWORD>(GetWindowLong(page.hwnd, GWL_EXSTYLE)) & 0x80000000, 0x80000000);
+    EXPECT_EQ(page.log.find("Create Show0 "), 0u) << page.log;
+
+    page.log.clear();
+    SendMessage(page.tabStrip, TCM_SETCURFOCUS, 1, 0);
+    EXPECT_EQ(page.log.find("Hide0 "), 0u) << page.log;
+    EXPECT_NE(page.log.find("Show1 "), std::string::npos) << page.log;
+
+    page.log.clear();
+    ClosePage(page);
+    EXPECT_EQ(page.log, "Save ");
+    EXPECT_EQ(page.hwnd, nullptr);
+}
+
+TEST_F(PageHost, OpensTheSamePageAgain) {
+    for (int i = 0; i < 3; ++i) {
+        RecordingPage page(1);
+        Open(page);
+        ClosePage(page);
+    }
+    WNDCLASS left{};
+    EXPECT_FALSE(GetClassInfo(application.instance, kPageClass, &left))
+        << "the class outlives the page";
+}
+
+TEST_F(PageHost, WithoutTabsHasNoStripAndStillLaysOut) {
+    RecordingPage page(0);
+    Open(page);
+    EXPECT_EQ(page.tabStrip, nullptr);
+    page.log.clear();
+    MoveWindow(page.hwnd, 0, 30, 150, 150, FALSE);
+    EXPECT_NE(page.log.find("Layout "), std::string::npos);
+    ClosePage(page);
+}
+
+TEST_F(PageHost, KeepsTheStripAtTheBottomWhenOnlyTheSizeChanges) {
+    RecordingPage page(2);
+    Open(page);
+    MoveWindow(page.hwnd, kOwnerPlace.left, kOwnerPlace.top, 180, 120, FALSE);
+    RECT client{};
+    RECT strip{};
+    GetClientRect(page.hwnd, &client);
+    GetWindowRect(page.tabStrip, &strip);
+    MapWindowPoints(nullptr, page.hwnd, reinterpret_cast<POINT*>(&strip), 2);
+    EXPECT_EQ(strip.left, Scale(-2));
+    EXPECT_EQ(strip.top, client.bottom - ScaleY(22) + 1);
+    EXPECT_EQ(strip.right - strip.left, client.right + Scale(2));
+    EXPECT_EQ(strip.bottom, client.bottom);
+    ClosePage(page);
+}
+
+TEST_F(PageHost, RoutesCommandsAndMessages) {
+    RecordingPage page(0);
+    Open(page);
+    page.log.clear();
+    SendMessage(page.hwnd, WM_COMMAND, 1300, 0);
+    SendMessage(page.hwnd, 1788, 0, 1210);
+    SendMessage(page.hwnd, 1789, 7, 1211);
+    NMHDR header{};
+    header.code = static_cast<UINT>(LVN_ITEMCHANGING);
+    // An answer of 1 would keep a list from changing its selection.
+    EXPECT_EQ(SendMessage(page.hwnd, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)), 0);
+    EXPECT_EQ(page.log, "Command1300 Click1210 Select7,1211 Notify ");
+
+    page.log.clear();
+    SendMessage(page.hwnd, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(closeRequests, 1);
+    EXPECT_EQ(page.log, "") << "OK belongs to the main window";
+    ClosePage(page);
+}
+
+TEST_F(PageHost, LeavesNoStaleHandleWhenTheWindowIsDestroyedFromOutside) {
+    RecordingPage page(1);
+    Open(page);
+    DestroyWindow(page.hwnd);
+    EXPECT_EQ(page.hwnd, nullptr);
+    EXPECT_EQ(page.tabStrip, nullptr);
+    ClosePage(page);
+}
+
+TEST_F(PageHost, DrawsColourSamples) {
+    RecordingPage page(0);
+    HDC screen = GetDC(nullptr);
+    HDC dc = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, Scale(60), ScaleY(60));
+    ReleaseDC(nullptr, screen);
+    HGDIOBJ previous = SelectObject(dc, bitmap);
+    page.DrawColourSample(dc, RGB(200, 10, 30), Scale(5), ScaleY(5));
+    EXPECT_EQ(GetPixel(dc, Scale(5), ScaleY(5)), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(dc, Scale(5) + Scale(44) - 1, ScaleY(5) + ScaleY(20) - 1), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(dc, Scale(20), ScaleY(15)), RGB(200, 10, 30));
+    page.DrawColourSample(dc, 0xFFFFFFFF, Scale(5), ScaleY(30));
+    EXPECT_EQ(GetPixel(dc, Scale(7), ScaleY(33)), RGB(255, 255, 255));
+    SelectObject(dc, previous);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+}
+} // namespace

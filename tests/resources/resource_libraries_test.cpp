@@ -1,0 +1,496 @@
+// The resource libraries as the program meets them on a device: each language complete and short
+// enough for the places its texts stand in, the art the right size on the right mask.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cwchar>
+#include <cwctype>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "resource_ids.h"
+#include "shell/services/handles.h"
+
+namespace {
+
+const std::wstring kInstallFolder = L"\\Program Files\\Teskel\\Orvane\\";
+
+struct TextName {
+    const char* name;
+    UINT id;
+};
+constexpr TextName kTexts[] = {
+#include "resource_text_table.inc"
+};
+
+std::string Narrow(const std::wstring& text) {
+    std::string bytes(text.size() * 3, '\0');
+    const int count =
+        WideCharToMultiByte(CP_UTF8, 0, text.c_str(), static_cast<int>(text.size()), bytes.data(),
+                            static_cast<int>(bytes.size()), nullptr, nullptr);
+    bytes.resize(static_cast<size_t>(count));
+    return bytes;
+}
+
+std::wstring Text(HMODULE library, UINT id) {
+    wchar_t text[1024];
+    const int length = LoadStringW(library, id, text, 1024);
+    return std::wstring(text, static_cast<size_t>(length));
+}
+
+struct Language {
+    std::string file;
+    UniqueModule library;
+};
+
+std::vector<Language> LoadLanguages() {
+    std::vector<Language> languages;
+    const std::wstring folder = kInstallFolder + L"LangRes\\";
+    WIN32_FIND_DATAW file;
+    UniqueFind find(FindFirstFileW((folder + L"*.dll").c_str(), &file));
+    if (!find) return languages;
+    do {
+        languages.push_back({Narrow(file.cFileName),
+                             UniqueModule(LoadLibraryW((folder + file.cFileName).c_str()))});
+    } while (FindNextFileW(find.Get(), &file));
+    return languages;
+}
+
+// The widths that the program's two fonts give a text, in pixels of a 96-dpi screen.
+class TextMeasure {
+  public:
+    explicit TextMeasure(LONG weight) : dc_(CreateCompatibleDC(nullptr)) {
+        LOGFONTW font = {};
+        font.lfHeight = 12;
+        font.lfWeight = weight;
+        wcscpy(font.lfFaceName, L"Tahoma");
+        font_.Reset(CreateFontIndirectW(&font));
+        previous_ = SelectObject(dc_.Get(), font_.Get());
+    }
+    TextMeasure(const TextMeasure&) = delete;
+    TextMeasure& operator=(const TextMeasure&) = delete;
+    ~TextMeasure() { SelectObject(dc_.Get(), previous_); }
+
+    [[nodiscard]] bool HasTahoma() const {
+        wchar_t face[LF_FACESIZE];
+        return GetTextFaceW(dc_.Get(), LF_FACESIZE, face) > 0 && wcscmp(face, L"Tahoma") == 0;
+    }
+    [[nodiscard]] int Width(const std::wstring& text) const {
+        SIZE size = {};
+        GetTextExtentPoint32W(dc_.Get(), text.c_str(), static_cast<int>(text.size()), &size);
+        return size.cx;
+    }
+
+  private:
+    UniqueFont font_;
+    UniqueDc dc_;
+    HGDIOBJ previous_ = nullptr;
+};
+
+// Breaks a text at its spaces as a list view does with captions below large icons.
+std::vector<std::wstring> WrappedLines(const std::wstring& text, const TextMeasure& measure,
+                                       int width) {
+    std::vector<std::wstring> lines(1);
+    for (size_t start = 0; start < text.size();) {
+        const size_t end = std::min(text.find(L' ', start), text.size());
+        const std::wstring word = text.substr(start, end - start);
+        const std::wstring longer = lines.back().empty() ? word : lines.back() + L' ' + word;
+        if (lines.back().empty() || measure.Width(longer) <= width)
+            lines.back() = longer;
+        else
+            lines.push_back(word);
+        start = end + 1;
+    }
+    return lines;
+}
+
+// The conversions of a format, each from its '%' to its letter.
+std::vector<std::wstring> FormatMarks(const std::wstring& text) {
+    std::vector<std::wstring> marks;
+    for (size_t at = text.find(L'%'); at != std::wstring::npos; at = text.find(L'%', at)) {
+        const size_t end = std::min(text.find_first_of(L"%diuxXcsS", at + 1), text.size() - 1);
+        marks.push_back(text.substr(at, end - at + 1));
+        at = end + 1;
+    }
+    return marks;
+}
+
+class LanguageLibraries : public testing::Test {
+  protected:
+    void SetUp() override {
+        languages_ = LoadLanguages();
+        ASSERT_GE(languages_.size(), 2U) << "no languages are installed";
+        for (const Language& language : languages_) {
+            ASSERT_TRUE(language.library) << language.file;
+            if (language.file == "OVEngRc.dll") english_ = language.library.Get();
+        }
+        ASSERT_NE(english_, nullptr);
+    }
+
+    std::vector<Language> languages_;
+    HMODULE english_ = nullptr;
+};
+
+TEST(ResourceIds, NoTwoTextsShareANumber) {
+    std::map<UINT, const char*> names;
+    for (const TextName& text : kTexts) {
+        const auto [other, fresh] = names.emplace(text.id, text.name);
+        EXPECT_TRUE(fresh) << text.name << " and " << other->second << " are both " << text.id;
+    }
+}
+
+TEST_F(LanguageLibraries, HoldEveryText) {
+    for (const Language& language : languages_) {
+        for (const TextName& text : kTexts)
+            EXPECT_FALSE(Text(language.library.Get(), text.id).empty())
+                << language.file << " lacks " << text.name;
+    }
+}
+
+TEST_F(LanguageLibraries, AgreeOnFormatMarks) {
+    for (const Language& language : languages_) {
+        for (const TextName& text : kTexts)
+            EXPECT_EQ(FormatMarks(Text(language.library.Get(), text.id)),
+                      FormatMarks(Text(english_, text.id)))
+                << language.file << " " << text.name;
+    }
+}
+
+// UTF-8 read as a single-byte encoding leaves these behind; a label would swallow an ampersand.
+TEST_F(LanguageLibraries, ArriveInTheRightEncoding) {
+    for (const Language& language : languages_) {
+        const HMODULE library = language.library.Get();
+        EXPECT_EQ(Text(library, IDS_ABOUT_RIGHTS).substr(0, 2), L"\u00A9 ") << language.file;
+        for (const TextName& text : kTexts) {
+            const std::wstring value = Text(library, text.id);
+            EXPECT_EQ(value.find_first_of(L"\u00C2\u00C3\uFFFD&"), std::wstring::npos)
+                << language.file << " " << text.name << ": " << Narrow(value);
+        }
+    }
+}
+
+// --- Widths -------------------------------------------------------------------------------------
+
+// The page list's columns are at least 80 units wide, of which the list view keeps 12 free of text.
+constexpr int kPageCaption = 80 - 12;
+
+const std::vector<UINT> kPageNames = {
+    IDS_PAGE_GENERAL,  IDS_PAGE_CALENDAR, IDS_PAGE_TASKS, IDS_PAGE_NOTES,
+    IDS_PAGE_CONTACTS, IDS_PAGE_MESSAGES, IDS_PAGE_FONTS, IDS_PAGE_SPECIAL_EVENTS,
+    IDS_PAGE_COLOURS,  IDS_PAGE_PIM,      IDS_PAGE_TABS,  IDS_PAGE_CATEGORY,
+};
+
+struct WidthLimit {
+    const char* place;
+    int pixels;
+    std::vector<UINT> ids;
+};
+
+const WidthLimit kLabelLimits[] = {
+    {"label of a combo row",
+     98,
+     {IDS_GENERAL_ON_CLICK, IDS_GENERAL_ON_DOUBLE_CLICK, IDS_GENERAL_HEIGHT,
+      IDS_GENERAL_HEIGHT_LANDSCAPE, IDS_GENERAL_LANGUAGE, IDS_GENERAL_FILTER_ALIGN,
+      IDS_GENERAL_DPAD_MODE, IDS_GENERAL_DPAD_COMPLETE, IDS_GENERAL_DPAD_SCROLLING,
+      IDS_GENERAL_LOADING_DELAY}},
+    {"label on a line of its own", 200, {IDS_GENERAL_SKIN_PATH}},
+    {"check box",
+     198,
+     {IDS_GENERAL_AUTO_HEIGHT, IDS_GENERAL_SOUND, IDS_GENERAL_GOOFY_MODE, IDS_GENERAL_INDENT_ITEMS,
+      IDS_GENERAL_REMOVE_TABS_BAR, IDS_GENERAL_REMOVE_SETTINGS_BUTTON,
+      IDS_GENERAL_REMOVE_SEPARATING_LINE, IDS_GENERAL_DPAD_ENABLED,
+      IDS_GENERAL_DPAD_DOUBLE_CLICK_TAB, IDS_GENERAL_EXCLUSIVE_DPAD,
+      IDS_GENERAL_DOUBLE_CLICK_SCROLL, IDS_GENERAL_FULL_SCROLLING, IDS_GENERAL_VGA_MODE,
+      IDS_GENERAL_THIN_LINES, IDS_GENERAL_REMOVE_HIGHLIGHT}},
+    {"choice of a combo",
+     100,
+     {IDS_GENERAL_ON_CLICK_OPEN,
+      IDS_GENERAL_ON_CLICK_MENU,
+      IDS_GENERAL_ON_CLICK_SELECT,
+      IDS_GENERAL_ON_DOUBLE_CLICK_NOTHING,
+      IDS_GENERAL_ON_DOUBLE_CLICK_OPEN,
+      IDS_GENERAL_ON_DOUBLE_CLICK_MENU,
+      IDS_ALIGN_LEFT,
+      IDS_ALIGN_CENTRE,
+      IDS_ALIGN_RIGHT,
+      IDS_GENERAL_DPAD_MODE_ITEMS,
+      IDS_GENERAL_DPAD_MODE_SCROLL,
+      IDS_GENERAL_DPAD_COMPLETE_NOTHING,
+      IDS_GENERAL_DPAD_COMPLETE_MENU,
+      IDS_GENERAL_DPAD_COMPLETE_OPEN,
+      IDS_GENERAL_DPAD_SCROLL_LINE,
+      IDS_GENERAL_DPAD_SCROLL_ITEM,
+      IDS_GENERAL_DPAD_SCROLL_PAGE,
+      IDS_LANGUAGE_NAME,
+      IDS_DASHBOARD_TAB_TASKS,
+      IDS_DASHBOARD_TAB_NOTES,
+      IDS_DASHBOARD_TAB_CONTACTS,
+      IDS_DASHBOARD_TAB_MAIL,
+      IDS_DASHBOARD_TAB_SPECIAL_EVENTS,
+      IDS_DASHBOARD_TAB_CALENDAR}},
+    {"button beside a path", 36, {IDS_CLEAR, IDS_BROWSE}},
+    {"colour swatch", 40, {IDS_COLOUR_NONE}},
+};
+
+// A page's tabs stand side by side, so it is their sum that counts; each tab's frame adds 6 pixels.
+const WidthLimit kTabStripLimits[] = {
+    {"General",
+     195,
+     {IDS_TAB_GENERAL, IDS_TAB_GENERAL_APPEARANCE, IDS_TAB_GENERAL_DISPLAY, IDS_TAB_GENERAL_DPAD,
+      IDS_TAB_MISCELLANEOUS}},
+    {"Calendar",
+     185,
+     {IDS_TAB_GENERAL, IDS_TAB_CALENDAR_APPOINTMENTS, IDS_TAB_CALENDAR_TASKS,
+      IDS_TAB_CALENDAR_DAY_TITLES, IDS_TAB_CALENDAR_ICONS, IDS_TAB_CALENDAR_MONTH,
+      IDS_TAB_CALENDAR_MAIL, IDS_TAB_CALENDAR_WEATHER, IDS_TAB_MISCELLANEOUS}},
+    {"Tasks",
+     200,
+     {IDS_TAB_TASKS_GENERAL, IDS_TAB_TITLES, IDS_TAB_TASKS_ICONS, IDS_TAB_TASKS_DATES}},
+    {"Notes", 200, {IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS}},
+    {"Contacts",
+     200,
+     {IDS_TAB_CONTACTS_DISPLAY, IDS_TAB_CONTACTS_ACTIONS, IDS_TAB_CONTACTS_ALPHABETS}},
+    {"Messages", 200, {IDS_TAB_GENERAL, IDS_TAB_TITLES}},
+    {"Special events", 200, {IDS_TAB_SEVENTS_DISPLAY, IDS_TAB_SEVENTS_FILTERS, IDS_TAB_TITLES}},
+    {"Fonts, one for all items", 200, {IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEMS}},
+    {"Fonts, one per item", 200, {IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEMS_OFF}},
+    {"Colours", 200, {IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES}},
+    {"PIM", 200, {IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS}},
+    {"Tabs", 200, {IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT}},
+    {"Categories",
+     200,
+     {IDS_TAB_CATEGORY_CATEGORIES, IDS_TAB_CATEGORY_FILTERS, IDS_TAB_MISCELLANEOUS}},
+};
+
+TEST_F(LanguageLibraries, FitTheirPlaces) {
+    const TextMeasure normal(FW_DONTCARE);
+    ASSERT_TRUE(normal.HasTahoma());
+    for (const Language& language : languages_) {
+        for (const WidthLimit& limit : kLabelLimits) {
+            for (const UINT id : limit.ids) {
+                const std::wstring text = Text(language.library.Get(), id);
+                EXPECT_LE(normal.Width(text), limit.pixels)
+                    << language.file << ", " << limit.place << ": " << Narrow(text);
+            }
+        }
+        for (const WidthLimit& page : kTabStripLimits) {
+            int sum = 0;
+            for (const UINT id : page.ids)
+                sum += normal.Width(Text(language.library.Get(), id));
+            EXPECT_LE(sum, page.pixels) << language.file << ", tabs of " << page.place;
+        }
+    }
+}
+
+TEST_F(LanguageLibraries, NamePagesInAtMostTwoLines) {
+    const TextMeasure bold(FW_BOLD);
+    ASSERT_TRUE(bold.HasTahoma());
+    for (const Language& language : languages_) {
+        for (const UINT id : kPageNames) {
+            const std::wstring name = Text(language.library.Get(), id);
+            const std::vector<std::wstring> lines = WrappedLines(name, bold, kPageCaption);
+            EXPECT_LE(lines.size(), 2U) << language.file << ": " << Narrow(name);
+            for (const std::wstring& line : lines)
+                EXPECT_LE(bold.Width(line), kPageCaption) << language.file << ": " << Narrow(line);
+        }
+    }
+}
+
+// --- The menu -----------------------------------------------------------------------------------
+
+constexpr UINT kSeparator = 0;
+
+struct MenuEntry {
+    UINT command; // kSeparator for a separator.
+    std::wstring text;
+};
+
+std::vector<MenuEntry> Entries(HMENU menu) {
+    std::vector<MenuEntry> entries;
+    const int count = GetMenuItemCount(menu);
+    for (int i = 0; i < count; ++i) {
+        wchar_t text[256] = L"";
+        MENUITEMINFOW item = {};
+        item.cbSize = sizeof item;
+        item.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STRING;
+        item.dwTypeData = text;
+        item.cch = 256;
+        GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &item);
+        const bool separator = (item.fType & MFT_SEPARATOR) != 0;
+        entries.push_back({separator ? kSeparator : item.wID, text});
+    }
+    return entries;
+}
+
+std::vector<UINT> Commands(HMENU menu) {
+    std::vector<UINT> commands;
+    for (const MenuEntry& entry : Entries(menu))
+        commands.push_back(entry.command);
+    return commands;
+}
+
+// Each entry but a separator has one letter to choose it by, its own among its neighbours.
+void ExpectDistinctMnemonics(HMENU menu, const std::string& file) {
+    std::set<wint_t> letters;
+    for (const MenuEntry& entry : Entries(menu)) {
+        if (entry.command == kSeparator) continue;
+        const size_t mark = entry.text.find(L'&');
+        ASSERT_NE(mark, std::wstring::npos) << file << ": " << Narrow(entry.text);
+        const wint_t letter = towupper(entry.text[mark + 1]);
+        EXPECT_TRUE(iswalpha(letter)) << file << ": " << Narrow(entry.text);
+        EXPECT_TRUE(letters.insert(letter).second) << file << ": " << Narrow(entry.text);
+        EXPECT_EQ(entry.text.find(L'&', mark + 1), std::wstring::npos) << Narrow(entry.text);
+    }
+}
+
+TEST_F(LanguageLibraries, HoldTheMainMenu) {
+    for (const Language& language : languages_) {
+        UniqueMenu menu(LoadMenuW(language.library.Get(), MAKEINTRESOURCEW(IDM_MAIN)));
+        ASSERT_TRUE(menu) << language.file;
+        ASSERT_EQ(GetMenuItemCount(menu.Get()), 2) << language.file;
+        const HMENU first = GetSubMenu(menu.Get(), 0);
+        const HMENU second = GetSubMenu(menu.Get(), 1);
+        EXPECT_EQ(Commands(first), (std::vector<UINT>{IDOK, IDCANCEL})) << language.file;
+        EXPECT_EQ(Commands(second),
+                  (std::vector<UINT>{IDC_EXPORT_BACKUP, kSeparator, IDC_IMPORT_BACKUP, kSeparator,
+                                     IDC_ABOUT, kSeparator, IDC_OPEN_OPTIONS}))
+            << language.file;
+        ExpectDistinctMnemonics(menu.Get(), language.file);
+        ExpectDistinctMnemonics(first, language.file);
+        ExpectDistinctMnemonics(second, language.file);
+    }
+}
+
+// --- Art ----------------------------------------------------------------------------------------
+
+struct Strip {
+    UINT id;
+    int count;
+    int units;
+    COLORREF mask;
+};
+constexpr Strip kPageListStrip = {IDB_PAGE_LIST, 12, 32, 0x00FF00};
+constexpr Strip kMenuBarStrip = {IDB_MENU_BAR, 2, 16, 0xC6CFDE};
+
+// The pixels of a library's bitmap; empty when it is not there or not of 24 bits.
+class Picture {
+  public:
+    Picture(HMODULE library, UINT id)
+        : bitmap_(static_cast<HBITMAP>(
+              LoadImageW(library, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION))) {
+        DIBSECTION section = {};
+        if (GetObjectW(bitmap_.Get(), sizeof section, &section) != sizeof section) return;
+        if (section.dsBm.bmBitsPixel == 24) info_ = section.dsBm;
+    }
+
+    [[nodiscard]] int Width() const { return info_.bmWidth; }
+    [[nodiscard]] int Height() const { return info_.bmHeight; }
+    [[nodiscard]] COLORREF At(int x, int y) const {
+        const auto* bits = static_cast<const BYTE*>(info_.bmBits);
+        const BYTE* pixel = bits + (Height() - 1 - y) * info_.bmWidthBytes + x * 3;
+        return RGB(pixel[2], pixel[1], pixel[0]);
+    }
+    // One image of a strip of square images, row by row.
+    [[nodiscard]] std::vector<COLORREF> Image(int index) const {
+        std::vector<COLORREF> pixels;
+        for (int y = 0; y < Height(); ++y)
+            for (int x = 0; x < Height(); ++x)
+                pixels.push_back(At(index * Height() + x, y));
+        return pixels;
+    }
+
+  private:
+    UniqueBitmap bitmap_;
+    BITMAP info_ = {};
+};
+
+// A colour so close to the mask that it must be what is left of the mask under a smooth edge.
+bool IsFringe(COLORREF colour, COLORREF mask) {
+    if (colour == mask) return false;
+    const auto close = [](int a, int b) { return std::abs(a - b) <= 8; };
+    return close(GetRValue(colour), GetRValue(mask)) && close(GetGValue(colour), GetGValue(mask)) &&
+           close(GetBValue(colour), GetBValue(mask));
+}
+
+void ExpectCornersClear(const std::vector<COLORREF>& image, int size, COLORREF mask) {
+    for (const int corner : {0, size - 1, size * (size - 1), size * size - 1})
+        EXPECT_EQ(image[static_cast<size_t>(corner)], mask);
+}
+
+void CheckStrip(HMODULE library, const Strip& strip, int scale) {
+    const Picture picture(library, strip.id);
+    const int size = strip.units * scale;
+    ASSERT_EQ(picture.Height(), size);
+    ASSERT_EQ(picture.Width(), size * strip.count);
+    std::set<std::vector<COLORREF>> images;
+    for (int i = 0; i < strip.count; ++i) {
+        SCOPED_TRACE(i);
+        const std::vector<COLORREF> image = picture.Image(i);
+        ExpectCornersClear(image, size, strip.mask);
+        EXPECT_LT(std::count(image.begin(), image.end(), strip.mask), size * size * 3 / 4)
+            << "hardly anything is drawn";
+        EXPECT_TRUE(std::none_of(image.begin(), image.end(),
+                                 [&](COLORREF colour) { return IsFringe(colour, strip.mask); }));
+        EXPECT_TRUE(images.insert(image).second) << "the same as an image before it";
+    }
+}
+
+// How much redder than green what is drawn in an image is, summed over its pixels.
+int Redness(const std::vector<COLORREF>& image, COLORREF mask) {
+    int sum = 0;
+    for (const COLORREF colour : image)
+        if (colour != mask) sum += GetRValue(colour) - GetGValue(colour);
+    return sum;
+}
+
+TEST(DisplayLibraries, HoldTheirArtAtTheirDensity) {
+    const std::pair<const wchar_t*, int> libraries[] = {{L"LowDpiRes.dll", 1},
+                                                        {L"HighDpiRes.dll", 2}};
+    for (const auto& [file, scale] : libraries) {
+        SCOPED_TRACE(Narrow(file));
+        const UniqueModule library(LoadLibraryW((kInstallFolder + file).c_str()));
+        ASSERT_TRUE(library);
+        CheckStrip(library.Get(), kPageListStrip, scale);
+        CheckStrip(library.Get(), kMenuBarStrip, scale);
+
+        // Cancel, a red cross, comes before OK, a green tick.
+        const Picture menuBar(library.Get(), IDB_MENU_BAR);
+        EXPECT_GT(Redness(menuBar.Image(0), kMenuBarStrip.mask), 0);
+        EXPECT_LT(Redness(menuBar.Image(1), kMenuBarStrip.mask), 0);
+    }
+}
+
+// --- The program --------------------------------------------------------------------------------
+
+BOOL CALLBACK CountName(HMODULE, const wchar_t*, wchar_t*, LONG_PTR count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+TEST(ProgramResources, AreItsIconKeysAndScalingMarkButNoTexts) {
+    const UniqueModule program(LoadLibraryExW((kInstallFolder + L"OVOptions.exe").c_str(), nullptr,
+                                              LOAD_LIBRARY_AS_DATAFILE));
+    ASSERT_TRUE(program);
+    const HMODULE module = program.Get();
+    EXPECT_NE(FindResourceW(module, MAKEINTRESOURCEW(IDI_PROGRAM), RT_GROUP_ICON), nullptr);
+    EXPECT_NE(FindResourceW(module, L"HI_RES_AWARE", L"CEUX"), nullptr);
+    EXPECT_NE(FindResourceW(module, MAKEINTRESOURCEW(1), RT_VERSION), nullptr);
+
+    ACCEL keys[4] = {};
+    ASSERT_EQ(CopyAcceleratorTableW(LoadAcceleratorsW(module, L"OV_OPTIONS"), keys, 4), 1);
+    EXPECT_EQ(keys[0].fVirt & ~FNOINVERT, FVIRTKEY | FCONTROL);
+    EXPECT_EQ(keys[0].key, 'S');
+    EXPECT_EQ(keys[0].cmd, IDOK);
+
+    int stringTables = 0;
+    EnumResourceNamesW(module, RT_STRING, CountName, reinterpret_cast<LONG_PTR>(&stringTables));
+    EXPECT_EQ(stringTables, 0);
+}
+
+} // namespace

@@ -1,0 +1,323 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cwctype>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "settings/font_catalogue.h"
+#include "settings/setting_table.h"
+#include "tests/settings/store_fixture.h"
+
+// What holds for every setting of every table.
+
+namespace {
+
+class SettingTables : public StoreFixture {};
+
+template <typename Visit>
+void ForEachRow(Visit visit) {
+    for (const SettingTable* table : AllSettingTables()) {
+        for (const SettingRow& row : table->rows)
+            visit(*table, row);
+    }
+}
+
+struct ValueNames {
+    std::vector<std::wstring> operator()(const FontRow& row) const {
+        std::vector<std::wstring> names;
+        for (const wchar_t* suffix :
+             {L"lfWeight", L"lfItalic", L"lfUnderline", L"lfStrikeOut", L"lfHeight", L"lfColor"}) {
+            names.push_back(std::wstring(row.name) + suffix);
+        }
+        return names;
+    }
+    std::vector<std::wstring> operator()(const auto& row) const { return {row.name}; }
+};
+
+std::vector<std::wstring> NamesOf(const SettingRow& row) {
+    return std::visit(ValueNames{}, row.what);
+}
+
+// Sets a row's setting to something that is not its default and that no repair touches, when all
+// rows are set so together.
+struct SetOther {
+    SettingsStore& store;
+
+    void operator()(const DwordRow& row) const {
+        DwordSetting& setting = store.*row.member;
+        const std::wstring name(row.name);
+        if (name.starts_with(L"CalTitlesOrder")) {
+            setting.Set(5 - setting.defaultValue);
+        } else if (name == L"dHeightLimitLandscape") {
+            setting.Set(100);
+        } else if (name == L"TimelinesLength") {
+            setting.Set(setting.defaultValue - 1);
+        } else {
+            setting.Set(setting.defaultValue + (name == L"PinnedMonthlyClr" ? 2 : 1));
+        }
+    }
+    void operator()(const TextRow& row) const {
+        StringSetting& setting = store.*row.member;
+        setting.Set((std::wstring(setting.defaultValue.CStr()) + L" other").c_str());
+    }
+    void operator()(const FontRow& row) const {
+        LOGFONT font = (store.*row.member).logFont;
+        ++font.lfHeight;
+        ++font.lfWeight;
+        font.lfItalic = 1;
+        font.lfUnderline = 1;
+        font.lfStrikeOut ^= 1;
+        (store.*row.member).Set(&font, 0x123456);
+    }
+    void operator()(const BitsRow&) const {}
+};
+
+struct SetDefault {
+    SettingsStore& store;
+
+    static void Reset(DwordSetting& setting) { setting.Set(setting.defaultValue); }
+    void operator()(const DwordRow& row) const { Reset(store.*row.member); }
+    void operator()(const TextRow& row) const {
+        StringSetting& setting = store.*row.member;
+        setting.Set(setting.defaultValue.CStr());
+    }
+    void operator()(const FontRow& row) const {
+        FontSetting& font = store.*row.member;
+        for (DwordSetting* setting : {&font.weight, &font.italic, &font.underline, &font.strikeOut,
+                                      &font.height, &font.colour}) {
+            Reset(*setting);
+        }
+    }
+    void operator()(const BitsRow&) const {}
+};
+
+// A row's value in two stores, as text to compare.
+struct Shown {
+    const SettingsStore& store;
+
+    std::wstring operator()(const DwordRow& row) const {
+        return std::to_wstring((store.*row.member).value);
+    }
+    std::wstring operator()(const TextRow& row) const { return (store.*row.member).value.CStr(); }
+    std::wstring operator()(const FontRow& row) const {
+        const FontSetting& font = store.*row.member;
+        std::wstring shown;
+        for (const DwordSetting* setting : {&font.weight, &font.italic, &font.underline,
+                                            &font.strikeOut, &font.height, &font.colour}) {
+            shown += std::to_wstring(setting->value) + L" ";
+        }
+        const LOGFONT& log = font.logFont;
+        return shown + std::to_wstring(log.lfWeight) + L" " + std::to_wstring(log.lfItalic) + L" " +
+               std::to_wstring(log.lfUnderline) + L" " + std::to_wstring(log.lfStrikeOut) + L" " +
+               std::to_wstring(log.lfHeight);
+    }
+    std::wstring operator()(const BitsRow& row) const {
+        const BitsSetting& bits = store.*row.member;
+        return std::wstring(bits.bits.get(), bits.bits.get() + bits.byteCount);
+    }
+};
+
+std::wstring ShownIn(const SettingsStore& store, const SettingRow& row) {
+    return std::visit(Shown{store}, row.what);
+}
+
+TEST_F(SettingTables, ValueNamesAreUniqueInTheirKey) {
+    std::set<std::pair<SettingGroup, std::wstring>> seen;
+    ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+        for (std::wstring name : NamesOf(row)) {
+            std::ranges::transform(name, name.begin(), towlower); // As the registry compares.
+            EXPECT_TRUE(seen.emplace(table.group, name).second) << name;
+        }
+    });
+    EXPECT_GT(seen.size(), 400U);
+}
+
+TEST_F(SettingTables, AnEmptyRegistryGivesDefaultsAndASaveWritesNothing) {
+    const auto store = LoadStore();
+    ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+        const std::wstring loaded = ShownIn(*store, row);
+        std::visit(SetDefault{*store}, row.what);
+        EXPECT_EQ(ShownIn(*store, row), loaded) << NamesOf(row)[0];
+        EXPECT_NE(KeyOfGroup(table.group).path, nullptr);
+    });
+    const auto untouched = LoadStore();
+    const RegistryTree before = GetTree(HKEY_CURRENT_USER);
+    untouched->Save();
+    EXPECT_EQ(GetTree(HKEY_CURRENT_USER), before);
+    for (const auto& [path, value] : before)
+        EXPECT_TRUE(path.ends_with(L"\\")) << path;
+}
+
+// The own tabs' settings follow the tab list, which therefore has to say the same.
+void SetTabListFromSettings(SettingsStore& store) {
+    const std::pair<TabType, std::pair<DwordSetting*, DwordSetting*>> tabs[] = {
+        {TabType::Calendar, {&store.CalendarTabEnabled, &store.CalendarTabOrder}},
+        {TabType::Tasks, {&store.TasksTabEnabled, &store.TasksTabOrder}},
+        {TabType::Notes, {&store.NotesTabEnabled, &store.NotesTabOrder}},
+        {TabType::Contacts, {&store.ContactsTabEnabled, &store.ContactsTabOrder}},
+        {TabType::Mail, {&store.MailTabEnabled, &store.MailTabOrder}},
+        {TabType::SpecialEvents, {&store.SEventsTabEnabled, &store.SEventsTabOrder}},
+    };
+    for (const auto& tab : store.tabs.All()) {
+        const auto settings =
+            std::ranges::find(tabs, tab->type, [](const auto& t) { return t.first; });
+        tab->enabled = settings->second.first->value;
+        tab->order = settings->second.second->value;
+    }
+}
+
+TEST_F(SettingTables, EverySavedSettingComesBackAndEveryOtherIsNeverWritten) {
+    const auto store = LoadStore();
+    ForEachRow([&](const SettingTable&, const SettingRow& row) {
+        std::visit(SetOther{*store}, row.what);
+    });
+    SetTabListFromSettings(*store);
+    store->Save();
+
+    const auto again = LoadStore();
+    ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+        const GroupKey key = KeyOfGroup(table.group);
+        for (const std::wstring& name : NamesOf(row)) {
+            EXPECT_EQ(HasValue(key.root, key.path, name), row.saveRank != 0) << name;
+        }
+        if (row.saveRank != 0) {
+            EXPECT_EQ(ShownIn(*again, row), ShownIn(*store, row)) << NamesOf(row)[0];
+        }
+    });
+
+    ForEachRow([&](const SettingTable&, const SettingRow& row) {
+        std::visit(SetDefault{*again}, row.what);
+    });
+    SetTabListFromSettings(*again);
+    again->Save();
+    for (const auto& [path, value] : GetTree(HKEY_CURRENT_USER)) {
+        EXPECT_TRUE(path.ends_with(L"\\")) << path << " is left";
+    }
+}
+
+// What the dashboard keeps for itself is read, and stays as it is whatever the store holds.
+TEST_F(SettingTables, ReadOnlySettingsAreReadAndSurviveASave) {
+    const BYTE flags[16] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+    size_t count = 0;
+    ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+        if (row.saveRank != 0) return;
+        ++count;
+        const GroupKey key = KeyOfGroup(table.group);
+        const std::wstring name = NamesOf(row)[0];
+        if (std::holds_alternative<DwordRow>(row.what)) SetNumber(key.root, key.path, name, 4711);
+        if (std::holds_alternative<TextRow>(row.what)) SetText(key.root, key.path, name, L"4711");
+        if (const auto* bits = std::get_if<BitsRow>(&row.what)) {
+            SetValue(key.root, key.path, name, REG_BINARY, flags, (bits->bitCount + 7) / 8);
+        }
+    });
+    EXPECT_GT(count, 40U);
+    const auto store = LoadStore();
+    ForEachRow([&](const SettingTable&, const SettingRow& row) {
+        if (row.saveRank != 0) return;
+        if (std::holds_alternative<BitsRow>(row.what)) {
+            EXPECT_EQ(ShownIn(*store, row).substr(0, 3), L"\x01\x02\x03") << NamesOf(row)[0];
+        } else {
+            EXPECT_EQ(ShownIn(*store, row), L"4711") << NamesOf(row)[0];
+        }
+        std::visit(SetOther{*store}, row.what);
+    });
+    const RegistryTree user = GetTree(HKEY_CURRENT_USER);
+    const RegistryTree machine = GetTree(HKEY_LOCAL_MACHINE);
+    store->Save();
+    EXPECT_EQ(GetTree(HKEY_CURRENT_USER), user);
+    EXPECT_EQ(GetTree(HKEY_LOCAL_MACHINE), machine);
+}
+
+std::vector<std::wstring> WrittenInOrder(const SettingTable& table) {
+    std::vector<std::wstring> names;
+    for (const uint8_t number : table.saveOrder)
+        names.push_back(NamesOf(table.rows[number])[0]);
+    return names;
+}
+
+TEST_F(SettingTables, RowsAreWrittenInLoadOrderButTheTasks) {
+    for (const SettingTable* table : AllSettingTables()) {
+        const auto saved = std::ranges::count_if(
+            table->rows, [](const SettingRow& row) { return row.saveRank != 0; });
+        EXPECT_EQ(table->saveOrder.size(), static_cast<size_t>(saved));
+        EXPECT_EQ(std::ranges::is_sorted(table->saveOrder), table != &kTasksTable);
+    }
+    EXPECT_EQ(WrittenInOrder(kTasksTable),
+              (std::vector<std::wstring>{
+                  L"TsksDateFrmt", L"TsksLimitFutureDate", L"HideCompletedTasks",
+                  L"HidePastCompletedTasks", L"IncludeCountersTsks", L"ConfirmTaskCompleteTsks",
+                  L"RemoveUndatedLeadingStr", L"RemoveUndatedTsks", L"TsksLineBreaker",
+                  L"TsksUseSmartFolding", L"TsksFoldingType", L"TaskTabLeftAlignIcon1",
+                  L"TaskTabLeftAlignIcon2", L"TasksRightIcons", L"UseCustomDateTsks",
+                  L"TsksCustomDateStruct", L"CustomDateFrmtStart", L"CustomDateFrmtEnd"}));
+}
+
+// Whatever stands under the names loads, and what is not repaired is left alone by a save.
+TEST_F(SettingTables, AnyValuesLoadAndStay) {
+    std::mt19937 random(20);
+    for (int round = 0; round < 10; ++round) {
+        ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+            const GroupKey key = KeyOfGroup(table.group);
+            // Elsewhere lies the library that the store loads.
+            if (table.group == SettingGroup::TodayItem) return;
+            for (const std::wstring& name : NamesOf(row)) {
+                BYTE bytes[12];
+                for (BYTE& byte : bytes)
+                    byte = static_cast<BYTE>(random() % 3 == 0 ? 0 : random());
+                constexpr DWORD kTypes[] = {REG_DWORD, REG_SZ,       REG_BINARY,
+                                            REG_NONE,  REG_MULTI_SZ, REG_EXPAND_SZ};
+                SetValue(key.root, key.path, name, kTypes[random() % 6], bytes, random() % 13);
+            }
+        });
+        const auto store = LoadStore();
+        const RegistryTree before = GetTree(HKEY_CURRENT_USER);
+        store->Save();
+        RegistryTree after = GetTree(HKEY_CURRENT_USER);
+        std::set<std::wstring> differing;
+        for (const auto& [path, value] : before) {
+            if (!after.contains(path) || after[path] != value) {
+                differing.insert(path.substr(path.rfind(L'\\') + 1));
+            }
+        }
+        for (const std::wstring& name : differing) {
+            const bool repaired =
+                name == L"dNumOfDays" || name == L"TimelinesLength" || name == L"ActiveTab" ||
+                name == L"dHeightLimitLandscape" || name == L"PinnedMonthlyClr" ||
+                name.starts_with(L"CalTitlesOrder") || name.ends_with(L"TabOrder");
+            EXPECT_TRUE(repaired) << name;
+        }
+        for (const auto& [path, value] : after)
+            EXPECT_TRUE(before.contains(path)) << path;
+        // What was repaired stays as it is from then on.
+        LoadAndSave();
+        LoadAndSave();
+        const RegistryTree settled = GetTree(HKEY_CURRENT_USER);
+        LoadAndSave();
+        EXPECT_EQ(GetTree(HKEY_CURRENT_USER), settled);
+    }
+}
+
+TEST_F(SettingTables, TheFontCatalogueFollowsTheTable) {
+    SetNumber(HKEY_CURRENT_USER, L"Software\\Teskel\\Orvane\\Fonts", L"FontSEGroupingTtlslfHeight",
+              31);
+    SetText(HKEY_CURRENT_USER, L"Software\\Teskel\\Orvane\\Fonts", L"FontFaceToUse", L"Courier");
+    SetNumber(HKEY_CURRENT_USER, L"Software\\Teskel\\Orvane\\Fonts", L"ForceClearType", 2);
+    LoadInto(settingsStore);
+    EXPECT_EQ(static_cast<int>(FontId::Count), 33);
+    EXPECT_EQ(FontOfStore(0), &settingsStore.FontGeneral);
+    EXPECT_EQ(FontOfStore(static_cast<int>(FontId::FontCalPast)), &settingsStore.FontCalPast);
+    EXPECT_EQ(FontOfStore(32), &settingsStore.FontSEGroupingTtls);
+    EXPECT_EQ(FontOfStore(33), nullptr);
+    EXPECT_EQ(FontOfStore(-1), nullptr);
+    const LOGFONT font = FontCatalogueEntry(32);
+    EXPECT_EQ(font.lfHeight, 31);
+    EXPECT_EQ(font.lfWeight, 700);
+    EXPECT_EQ(font.lfQuality, 5);
+    EXPECT_STREQ(font.lfFaceName, L"Courier");
+    EXPECT_EQ(FontCatalogueEntry(33).lfHeight, 0);
+}
+
+} // namespace

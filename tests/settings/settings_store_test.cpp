@@ -1,0 +1,433 @@
+#include "settings/settings_store.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "settings/setting_table.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "tests/settings/store_fixture.h"
+#include "tests/support/string_library.h"
+
+namespace {
+
+constexpr wchar_t kPocketInformant[] = L"Software\\WebIS\\PocketInformant";
+constexpr wchar_t kAgendaFusion[] = L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion";
+constexpr wchar_t kColours[] = L"SOFTWARE\\Microsoft\\Color";
+
+class SettingsStoreTest : public StoreFixture {};
+
+struct Stored {
+    const wchar_t* key;
+    const wchar_t* name;
+    uint32_t number;
+};
+
+TEST_F(SettingsStoreTest, LoadRepairsAndTheNextSaveWritesTheRepair) {
+    using Store = SettingsStore;
+    struct Case {
+        std::vector<Stored> stored;
+        DwordSetting Store::*member;
+        uint32_t value;
+        bool repaired;
+    };
+    const Case cases[] = {
+        {{{kCalendar, L"dNumOfDays", 0}}, &Store::dNumOfDays, 7, true},
+        {{{kCalendar, L"dNumOfDays", 1}}, &Store::dNumOfDays, 1, false},
+        {{{kCalendar, L"dNumOfDays", 120}}, &Store::dNumOfDays, 120, false},
+        {{{kCalendar, L"dNumOfDays", 121}}, &Store::dNumOfDays, 7, true},
+        {{{kCalendar, L"dNumOfDays", 0xFFFFFFFF}}, &Store::dNumOfDays, 7, true},
+
+        {{{kCalendar, L"TimelinesStart", 10}, {kCalendar, L"TimelinesLength", 10}},
+         &Store::TimelinesLength,
+         8,
+         true},
+        {{{kCalendar, L"TimelinesStart", 10}, {kCalendar, L"TimelinesLength", 8}},
+         &Store::TimelinesLength,
+         8,
+         false},
+        {{{kCalendar, L"TimelinesStart", 1}}, &Store::TimelinesLength, 17, true},
+        {{{kCalendar, L"TimelinesStart", 20}}, &Store::TimelinesLength, 0xFFFFFFFE, true},
+        // Sums that wrap come out small.
+        {{{kCalendar, L"TimelinesStart", 20}, {kCalendar, L"TimelinesLength", 0xFFFFFFFE}},
+         &Store::TimelinesLength,
+         0xFFFFFFFE,
+         false},
+        {{{kCalendar, L"TimelinesStart", 0xFFFFFFF0}}, &Store::TimelinesLength, 18, false},
+
+        {{{kCalendar, L"CalTitlesOrder5", 4}}, &Store::CalTitlesOrder5, 5, true},
+        {{{kCalendar, L"CalTitlesOrder5", 4}}, &Store::CalTitlesOrder0, 0, true},
+        {{{kCalendar, L"CalTitlesOrder0", 0x80000000}}, &Store::CalTitlesOrder0, 0, true},
+        {{{kCalendar, L"CalTitlesOrder0", 6}}, &Store::CalTitlesOrder0, 0, true},
+        {{{kCalendar, L"CalTitlesOrder0", 5}, {kCalendar, L"CalTitlesOrder5", 0}},
+         &Store::CalTitlesOrder0,
+         5,
+         false},
+
+        {{{kRoot, L"ActiveTab", 0}}, &Store::ActiveTab, 1, true},
+        {{{kRoot, L"ActiveTab", 6}}, &Store::ActiveTab, 6, false},
+        {{{kRoot, L"ActiveTab", 7}}, &Store::ActiveTab, 1, true},
+        {{{kRoot, L"ActiveTab", 2}, {kTabs, L"TasksTabEnabled", 0}}, &Store::ActiveTab, 1, true},
+        // A tab's number is its place in the list, not the order stored.
+        {{{kRoot, L"ActiveTab", 2}, {kTabs, L"TasksTabOrder", 90}, {kTabs, L"TasksTabEnabled", 0}},
+         &Store::ActiveTab,
+         2,
+         false},
+        // A hosted tab is no tab to start on.
+        {{{kRoot, L"ActiveTab", 1},
+          {L"Software\\Teskel\\Orvane\\TabSettings\\Hosted", L"Order", 0},
+          {L"Software\\Teskel\\Orvane\\TabSettings\\Hosted", L"Enabled", 1}},
+         &Store::ActiveTab,
+         1,
+         true},
+
+        // The default tab at start-up, enabled or not: 2 is Notes, 3 Contacts, 5 special events.
+        {{{kTabs, L"DfltTabOnStartup", 1}, {kTabs, L"DfltTab", 2}}, &Store::ActiveTab, 3, true},
+        {{{kTabs, L"DfltTabOnStartup", 1},
+          {kTabs, L"DfltTab", 3},
+          {kTabs, L"ContactsTabEnabled", 0}},
+         &Store::ActiveTab,
+         4,
+         true},
+        {{{kTabs, L"DfltTabOnStartup", 1}, {kTabs, L"DfltTab", 5}, {kTabs, L"SEventsTabOrder", 0}},
+         &Store::ActiveTab,
+         1,
+         true},
+        {{{kTabs, L"DfltTabOnStartup", 1}}, &Store::ActiveTab, 1, true},
+        {{{kTabs, L"DfltTabOnStartup", 1}, {kTabs, L"DfltTab", 6}, {kRoot, L"ActiveTab", 3}},
+         &Store::ActiveTab,
+         3,
+         false},
+        {{{kTabs, L"DfltTabOnStartup", 2}, {kTabs, L"DfltTab", 2}, {kRoot, L"ActiveTab", 5}},
+         &Store::ActiveTab,
+         5,
+         false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << &c - cases);
+        RegDeleteKeyW(HKEY_CURRENT_USER, kRoot);
+        for (const Stored& stored : c.stored) {
+            SetUserNumber(stored.key, stored.name, stored.number);
+        }
+        const auto store = LoadStore();
+        const DwordSetting& setting = (*store).*c.member;
+        EXPECT_EQ(setting.value, c.value);
+        EXPECT_EQ(setting.changed, c.repaired);
+        store->Save();
+        const wchar_t* key = KeyOfGroup(setting.group).path;
+        EXPECT_EQ(GetUserNumber(key, setting.name.CStr()).value_or(setting.defaultValue), c.value);
+        if (c.repaired && c.value == setting.defaultValue) {
+            EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, key, setting.name.CStr()));
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, SaveRepairsTheHeightsAndThePinnedMonth) {
+    for (const uint32_t height : {0U, 1U, 59U, 60U, 500U, 501U, 0xFFFFFFFFU}) {
+        const auto store = LoadStore();
+        store->dHeightLimitLandscape.Set(height);
+        store->Save();
+        const uint32_t saved = height == 60 || height == 500 ? height : 0;
+        EXPECT_EQ(GetUserNumber(kRoot, L"dHeightLimitLandscape").value_or(0), saved) << height;
+    }
+    const auto limit = static_cast<uint32_t>(Scale(200));
+    for (const uint32_t pinned : {1U, 2U}) {
+        for (const uint32_t height : {0U, limit - 1, limit, 0xFFFFFFFFU}) {
+            const auto store = LoadStore();
+            store->dHeightLimit.Set(height);
+            store->PinnedMonthlyClr.Set(pinned);
+            store->Save();
+            const uint32_t saved = pinned == 1 && height < limit ? 0 : pinned;
+            EXPECT_EQ(GetUserNumber(kCalendar, L"PinnedMonthlyClr").value_or(0), saved) << height;
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, DefaultsFollowTheDeviceAndOtherSettings) {
+    auto store = LoadStore();
+    EXPECT_STREQ(store->installFolder.CStr(), L"\\Program Files\\Teskel\\Orvane");
+    EXPECT_STREQ(store->OVIconsFolder.value.CStr(),
+                 L"\\Program Files\\Teskel\\Orvane\\CategoryIcons");
+    EXPECT_STREQ(store->PIVOL.value.CStr(), L"My Documents\\WebIS\\PocketInformant.vol");
+    EXPECT_EQ(store->dHeightLimit.value, static_cast<uint32_t>(ScaleY(160)));
+    EXPECT_EQ(store->MonthlyPopIconsSize.value, static_cast<uint32_t>(Scale(6)));
+    EXPECT_EQ(store->FontGnrlSize.value, static_cast<uint32_t>(Scale(12)));
+    EXPECT_EQ(store->FontTskNoDue.logFont.lfHeight, Scale(12));
+
+    SetText(HKEY_LOCAL_MACHINE, kTodayItem, L"ProgramFiles", L"\\Card");
+    SetText(HKEY_CURRENT_USER, kPocketInformant, L"WebIS_Folder", L"\\PI");
+    LoadInto(*store);
+    EXPECT_STREQ(store->installFolder.CStr(), L"\\Card\\Teskel\\Orvane");
+    EXPECT_STREQ(store->OVFiltersFileFolder.value.CStr(), L"\\Card\\Teskel\\Orvane");
+    EXPECT_STREQ(store->OVIconsFolder.value.CStr(), L"\\Card\\Teskel\\Orvane\\CategoryIcons");
+    EXPECT_STREQ(store->PIVOL.value.CStr(), L"\\PI\\WebIS\\PocketInformant.vol");
+    EXPECT_STREQ(store->SelectedLangResFile.value.CStr(),
+                 L"\\Program Files\\Teskel\\Orvane\\LangRes\\OVEngRc.dll");
+    SetText(HKEY_CURRENT_USER, kPocketInformant, L"PIVOL", L"\\own.vol");
+    LoadInto(*store);
+    EXPECT_STREQ(store->PIVOL.value.CStr(), L"\\own.vol");
+}
+
+// Sets a field of the user's locale for the test's time.
+class LocaleField {
+  public:
+    LocaleField(LCTYPE field, const wchar_t* text) : field_(field) {
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, field, before_, 80);
+        SetLocaleInfoW(LOCALE_USER_DEFAULT, field, text);
+    }
+    LocaleField(const LocaleField&) = delete;
+    LocaleField& operator=(const LocaleField&) = delete;
+    ~LocaleField() { SetLocaleInfoW(LOCALE_USER_DEFAULT, field_, before_); }
+
+  private:
+    LCTYPE field_;
+    wchar_t before_[80] = L"";
+};
+
+TEST_F(SettingsStoreTest, ClockAndWeekFollowTheLocale) {
+    for (const bool twelveHours : {true, false}) {
+        // A PC takes the kind of clock from the picture of a time.
+        const LocaleField picture(LOCALE_STIMEFORMAT, twelveHours ? L"h:mm:ss tt" : L"HH:mm:ss");
+        const LocaleField firstDay(LOCALE_IFIRSTDAYOFWEEK, twelveHours ? L"6" : L"2");
+        const auto store = LoadStore();
+        EXPECT_EQ(store->twelveHourClock, twelveHours);
+        EXPECT_EQ(store->MonthlyStartDay.value, twelveHours ? 6U : 2U);
+        EXPECT_EQ(store->FirstWorkDay.defaultValue, twelveHours ? 6U : 2U);
+    }
+}
+
+TEST_F(SettingsStoreTest, SystemColoursDependOnTheVersion) {
+    BYTE scheme[40 * 4];
+    for (size_t at = 0; at < sizeof scheme; ++at)
+        scheme[at] = static_cast<BYTE>(at / 4);
+    const COLORREF fallbacks[] = {0x000000, 0xEF8E73, 0x9C4D2C, 0xFFFFFF, 0x9C4D2C, 0xFFFFFF};
+    const auto store = LoadStore();
+    for (size_t at = 0; at < 6; ++at)
+        EXPECT_EQ(store->systemColours[at], fallbacks[at]);
+
+    SetValue(HKEY_LOCAL_MACHINE, kColours, L"SHColor", REG_BINARY, scheme, sizeof scheme);
+    struct Version {
+        DWORD major;
+        DWORD minor;
+        bool old;
+    };
+    for (const Version& v : {Version{3, 0, true}, Version{4, 20, true}, Version{4, 21, false},
+                             Version{5, 1, false}, Version{5, 20, false}}) {
+        StandInSetOsVersion(v.major, v.minor);
+        LoadInto(*store);
+        const COLORREF entries[] = {4, 6, 8, 9, 34, 35};
+        for (size_t at = 0; at < 6; ++at) {
+            const bool fixed = v.old && at >= 4;
+            EXPECT_EQ(store->systemColours[at], fixed ? fallbacks[at] : entries[at] * 0x010101)
+                << v.major << "." << v.minor << " colour " << at;
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, LanguageLibraryIsTheChosenOneOrTheEnglish) {
+    wchar_t temporary[MAX_PATH];
+    GetTempPathW(MAX_PATH, temporary);
+    const std::wstring folder = std::wstring(temporary) + L"StoreTest";
+    std::wstring path = folder;
+    CreateDirectoryW(path.c_str(), nullptr);
+    for (const wchar_t* part : {L"\\Teskel", L"\\Orvane", L"\\LangRes"}) {
+        path += part;
+        CreateDirectoryW(path.c_str(), nullptr);
+    }
+    const std::wstring english = path + L"\\OVEngRc.dll";
+    const std::wstring chosen = path + L"\\Chosen.dll";
+    const std::wstring noLibrary = path + L"\\Text.dll";
+    const std::wstring empty = path + L"\\Empty.dll";
+    ASSERT_TRUE(MakeStringLibrary(english, 1436, L"Calendar"));
+    ASSERT_TRUE(MakeStringLibrary(chosen, 1436, L"Kalender"));
+    CopyFileW(L"C:\\windows\\win.ini", noLibrary.c_str(), FALSE);
+    CloseHandle(CreateFileW(empty.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+
+    SetText(HKEY_LOCAL_MACHINE, kTodayItem, L"ProgramFiles", folder);
+    const auto caption = [this](const std::wstring& selected) {
+        SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", selected);
+        const auto store = LoadStore();
+        return std::wstring(store->tabs.FindNumber(1)->name.CStr());
+    };
+    EXPECT_EQ(caption(chosen), L"Kalender");
+    EXPECT_NE(GetModuleHandleW(chosen.c_str()), nullptr);
+    for (const std::wstring& bad : {noLibrary, empty, std::wstring(), path + L"\\None.dll"}) {
+        EXPECT_EQ(caption(bad), L"Calendar") << bad;
+        EXPECT_EQ(GetModuleHandleW(chosen.c_str()), nullptr) << "the old library stayed loaded";
+    }
+    SetText(HKEY_LOCAL_MACHINE, kTodayItem, L"ProgramFiles", L"\\nowhere");
+    EXPECT_EQ(caption(L"x.dll"), L"");
+    EXPECT_FALSE(languageLibrary_);
+    EXPECT_EQ(GetModuleHandleW(english.c_str()), nullptr);
+    for (const std::wstring& file : {english, chosen, noLibrary, empty})
+        DeleteFileW(file.c_str());
+}
+
+TEST_F(SettingsStoreTest, ProbesAskForAValueAndCreateNothing) {
+    struct Probe {
+        bool (*installed)();
+        HKEY root;
+        const wchar_t* key;
+        const wchar_t* value;
+    };
+    const Probe probes[] = {
+        {&SettingsStore::IsTeskelCalendarInstalled, HKEY_CURRENT_USER, L"SOFTWARE\\Teskel Calendar",
+         L"ExecutablePath"},
+        {&SettingsStore::IsPocketInformantInstalled, HKEY_CURRENT_USER, kPocketInformant,
+         L"version"},
+        {&SettingsStore::IsAgendaFusionInstalled, HKEY_LOCAL_MACHINE, kAgendaFusion, L"VerMajor"},
+        {&SettingsStore::IsAgendaOneInstalled, HKEY_CURRENT_USER,
+         L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"},
+    };
+    for (const Probe& probe : probes) {
+        EXPECT_FALSE(probe.installed());
+        EXPECT_FALSE(HasKey(probe.root, probe.key));
+        SetText(probe.root, probe.key, L"other", L"");
+        EXPECT_FALSE(probe.installed());
+        SetValue(probe.root, probe.key, probe.value, REG_NONE, nullptr, 0);
+        EXPECT_TRUE(probe.installed()) << probe.key;
+    }
+}
+
+// A key that cannot be opened costs its own settings only, and is not tried again for each.
+TEST_F(SettingsStoreTest, KeysThatCannotBeOpenedGiveDefaults) {
+    SetText(HKEY_CURRENT_USER, kPocketInformant, L"IconPath", L"stored");
+    SetText(HKEY_LOCAL_MACHINE, kAgendaFusion, L"Core.Categories", L"stored");
+    const wchar_t* subkeys[] = {L"",           L"\\Calendar",  L"\\Tasks",       L"\\Notes",
+                                L"\\Contacts", L"\\Messages",  L"\\SEvents",     L"\\Fonts",
+                                L"\\Colors",   L"\\CustomPIM", L"\\TabSettings", L"\\Categories"};
+    const wchar_t* numbers[] = {
+        L"NoteZoom",       L"dDayBreaker",  L"TsksSrt3",      L"NotesIncldCounters",
+        L"ContactsLayout", L"MessagesSort", L"SEventDays",    L"FontGenerallfWeight",
+        L"ClrStatusBusy",  L"PimSw",        L"DfltTabTimeOut"};
+    for (size_t at = 0; at < std::size(numbers); ++at) {
+        SetUserNumber((std::wstring(kRoot) + subkeys[at]).c_str(), numbers[at], 4711);
+    }
+    SetText(HKEY_CURRENT_USER, std::wstring(kRoot) + L"\\Categories", L"AdditionalIconsFolder",
+            L"stored");
+
+    constexpr ULONG kKeys = 14;
+    for (ULONG failing = 1; failing <= kKeys; ++failing) {
+        SettingsStore store;
+        StandInResetCalls();
+        StandInFailCall(kRegCreateKeyCalls, failing, ERROR_ACCESS_DENIED);
+        LoadInto(store);
+        EXPECT_EQ(StandInCallCount(kRegCreateKeyCalls), kKeys);
+        StandInResetCalls();
+        const bool stored[] = {
+            store.IconPath.value == L"stored",  store.CoreCategories.value == L"stored",
+            store.NoteZoom.value == 4711,       store.dDayBreaker.value == 4711,
+            store.TsksSrt3.value == 4711,       store.NotesIncldCounters.value == 4711,
+            store.ContactsLayout.value == 4711, store.MessagesSort.value == 4711,
+            store.SEventDays.value == 4711,     store.FontGeneral.weight.value == 4711,
+            store.ClrStatusBusy.value == 4711,  store.PimSw.value == 4711,
+            store.DfltTabTimeOut.value == 4711, store.AdditionalIconsFolder.value == L"stored",
+        };
+        for (ULONG key = 1; key <= kKeys; ++key) {
+            EXPECT_EQ(stored[key - 1], key != failing) << "key " << key << ", failing " << failing;
+        }
+        EXPECT_FALSE(store.FontGeneral.weight.name.IsEmpty());
+    }
+}
+
+TEST_F(SettingsStoreTest, TheTodayItemKeyIsNotCreated) {
+    LoadAndSave();
+    EXPECT_FALSE(HasKey(HKEY_LOCAL_MACHINE, kTodayItem));
+    EXPECT_TRUE(HasKey(HKEY_LOCAL_MACHINE, kAgendaFusion));
+    EXPECT_TRUE(HasKey(HKEY_CURRENT_USER, kPocketInformant));
+}
+
+// One query for a number, two for a text and for flags.
+struct QueriesOf {
+    ULONG operator()(const DwordRow&) const { return 1; }
+    ULONG operator()(const TextRow&) const { return 2; }
+    ULONG operator()(const BitsRow&) const { return 2; }
+    ULONG operator()(const FontRow&) const { return 6; }
+};
+
+TEST_F(SettingsStoreTest, LoadAndSaveAskTheRegistryNoMoreThanNeeded) {
+    ULONG queries = 0;
+    for (const SettingTable* table : AllSettingTables()) {
+        const GroupKey key = KeyOfGroup(table->group);
+        for (const SettingRow& row : table->rows) {
+            queries += std::visit(QueriesOf{}, row.what);
+            if (const auto* text = std::get_if<TextRow>(&row.what)) {
+                SetText(key.root, key.path, text->name, L"x");
+            }
+            if (const auto* bits = std::get_if<BitsRow>(&row.what)) {
+                const std::vector<BYTE> flags((bits->bitCount + 7) / 8);
+                SetValue(key.root, key.path, bits->name, REG_BINARY, flags.data(), flags.size());
+            }
+        }
+    }
+    StandInSetOsVersion(4, 20); // Four system colours, of which none is there.
+    StandInResetCalls();
+    const auto store = LoadStore();
+    EXPECT_EQ(StandInCallCount(kRegQueryValueCalls), queries);
+    EXPECT_EQ(StandInCallCount(kRegCreateKeyCalls), 14U);
+    EXPECT_EQ(StandInCallCount(kRegOpenKeyCalls), 1U + 4U);
+    EXPECT_EQ(StandInCallCount(kRegCloseKeyCalls), 14U + 1U);
+    EXPECT_EQ(StandInCallCount(kRegSetValueCalls | kRegDeleteValueCalls | kRegDeleteKeyCalls), 0U);
+
+    store->GoofyMode.Set(1);
+    store->FontCalPast.Set(nullptr, 0xFF);
+    StandInResetCalls();
+    store->Save();
+    EXPECT_EQ(StandInCallCount(kRegCreateKeyCalls), 12U);
+    EXPECT_EQ(StandInCallCount(kRegCloseKeyCalls), 12U);
+    EXPECT_EQ(StandInCallCount(kRegSetValueCalls), 2U);
+    EXPECT_EQ(StandInCallCount(kRegDeleteValueCalls), 1U) << "the landscape height's repair";
+    EXPECT_EQ(StandInCallCount(kRegQueryValueCalls | kRegOpenKeyCalls), 0U);
+}
+
+// The nth write fails: what is missing afterwards tells the order of the keys.
+TEST_F(SettingsStoreTest, KeysAreSavedInOrder) {
+    using Store = SettingsStore;
+    DwordSetting Store::*const order[] = {
+        &Store::OnClick,          &Store::dDayBreaker,
+        &Store::TsksDateFrmt,     &Store::NotesIncldCounters,
+        &Store::ContactsLayout,   &Store::MsgsOpenOnClick,
+        &Store::SEventDays,       &Store::UseShadowColor,
+        &Store::GeneralFontColor, &Store::PimSw,
+        &Store::TabsMode,         &Store::DfltTab,
+    };
+    for (ULONG failing = 1; failing <= std::size(order); ++failing) {
+        RegDeleteKeyW(HKEY_CURRENT_USER, kRoot);
+        const auto store = LoadStore();
+        for (const auto member : order)
+            ((*store).*member).Set(4711);
+        StandInFailCall(kRegSetValueCalls, failing, ERROR_ACCESS_DENIED);
+        store->Save();
+        StandInResetCalls();
+        for (ULONG number = 1; number <= std::size(order); ++number) {
+            const DwordSetting& setting = (*store).*order[number - 1];
+            EXPECT_EQ(
+                HasValue(HKEY_CURRENT_USER, KeyOfGroup(setting.group).path, setting.name.CStr()),
+                number != failing)
+                << setting.name.CStr();
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, LoadingAgainForgetsWhatWasSet) {
+    SetUserNumber(L"Software\\Teskel\\Orvane\\TabSettings\\Hosted", L"Order", 2);
+    SettingsStore store;
+    LoadInto(store);
+    ASSERT_EQ(store.tabs.All().size(), 7U);
+    store.OnClick.Set(2);
+    store.SkinPath.Set(L"unsaved");
+    store.FontGeneral.Set(nullptr, 1);
+    store.tabs.Remove(*store.tabs.FindType(TabType::Mail));
+    LoadInto(store);
+    EXPECT_EQ(store.tabs.All().size(), 7U);
+    EXPECT_EQ(store.OnClick.value, 0U);
+    store.Save();
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"OnClick"));
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"SkinPath"));
+    EXPECT_FALSE(
+        HasValue(HKEY_CURRENT_USER, L"Software\\Teskel\\Orvane\\Fonts", L"FontGenerallfColor"));
+}
+
+} // namespace

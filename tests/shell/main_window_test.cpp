@@ -1,0 +1,203 @@
+#include "shell/main_window.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "resource_ids.h"
+#include "settings/settings_store.h"
+#include "shell/page_factory.h"
+#include "shell/services/application.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "tests/support/registry_fixture.h"
+#include "tests/support/window_support.h"
+
+namespace {
+constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
+constexpr wchar_t kListenerClass[] = L"MainWindowTestListener";
+
+// What the dashboard sees when it is told: the registry as it stands at that moment.
+int timesTold;
+bool valueWasWritten;
+
+LRESULT CALLBACK ListenerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == application.settingsChangedMessage) {
+        ++timesTold;
+        valueWasWritten = HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode");
+        EXPECT_EQ(wParam, 0u);
+        EXPECT_EQ(lParam, 0);
+    }
+    return DefWindowProc(window, message, wParam, lParam);
+}
+
+class MainWindowTest : public RegistryFixture {
+  protected:
+    void SetUp() override {
+        RegistryFixture::SetUp();
+        application.instance = GetModuleHandle(nullptr);
+        WNDCLASS listener{};
+        listener.lpfnWndProc = ListenerProc;
+        listener.lpszClassName = kListenerClass;
+        RegisterClass(&listener);
+        listener_ = CreateWindowEx(0, kListenerClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                   nullptr, nullptr);
+        timesTold = 0;
+        valueWasWritten = false;
+    }
+
+    void TearDown() override {
+        if (IsWindow(window_)) DestroyWindow(window_);
+        DestroyWindow(listener_);
+        PumpMessages();
+        UnregisterClass(kMainWindowClass, application.instance);
+        RegistryFixture::TearDown();
+    }
+
+    void Start() {
+        window_ = CreateMainWindow(application.instance);
+        ASSERT_NE(window_, nullptr);
+        MakeRoomForMenuBar(window_);
+        PumpMessages();
+        list_ = FindWindowEx(window_, nullptr, WC_LISTVIEW, nullptr);
+        ASSERT_NE(list_, nullptr);
+    }
+
+    // As by the keys: the row takes the selection, Enter activates it.
+    HWND OpenPage(int row) {
+        LVITEM item{};
+        item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        SendMessage(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                    reinterpret_cast<LPARAM>(&item));
+        SendMessage(list_, WM_KEYDOWN, VK_RETURN, 0);
+        PumpMessages();
+        HWND root = ActiveRoot(window_);
+        return root == window_ ? nullptr : root;
+    }
+
+    HWND window_ = nullptr;
+    HWND list_ = nullptr;
+    HWND listener_ = nullptr;
+};
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassName(window, name, 64);
+    return name;
+}
+
+TEST_F(MainWindowTest, ListsTheTwelvePagesAndOpensEach) {
+    Start();
+    EXPECT_EQ(TextOf(window_), L"OV Options");
+    const wchar_t* classes[kPageCount] = {
+        L"GeneralSettingsWin", L"CalendarSettingsWin", L"TasksSettingsWin",
+        L"NotesSettingsWin",   L"ContactSettingsWin",  L"MessagesSettingsWin",
+        L"SEventsSettingsWin", L"FontSettingsWin",     L"ColorSettingsWin",
+        L"PIMSettingsWin",     L"TabsSettingsWin",     L"CategorySettingsWin"};
+    const int tabs[kPageCount] = {5, 9, 4, 4, 3, 2, 3, 2, 2, 2, 3, 3};
+    ASSERT_EQ(SendMessage(list_, LVM_GETITEMCOUNT, 0, 0), kPageCount);
+    for (int row = 0; row < kPageCount; ++row) {
+        HWND page = OpenPage(row);
+        ASSERT_NE(page, nullptr) << row;
+        EXPECT_EQ(ClassOf(page), classes[row]);
+        EXPECT_EQ(TextOf(window_), LanguageText(PageCaption(row)).CStr());
+        EXPECT_NE(TextOf(window_), L"");
+        HWND strip = FindWindowEx(page, nullptr, WC_TABCONTROL, nullptr);
+        EXPECT_EQ(SendMessage(strip, TCM_GETITEMCOUNT, 0, 0), tabs[row]);
+        SendMessage(page, WM_COMMAND, IDOK, 0);
+        EXPECT_FALSE(IsWindow(page));
+        EXPECT_EQ(ActiveRoot(window_), window_);
+        EXPECT_EQ(TextOf(window_), L"OV Options");
+    }
+    EXPECT_EQ(CreatePage(window_, kPageCount), nullptr);
+}
+
+TEST_F(MainWindowTest, LeavesRoomForItsMenuBar) {
+    Start();
+    RECT place{};
+    GetWindowRect(window_, &place);
+    EXPECT_EQ(place.left, 0);
+    EXPECT_EQ(place.top, Scale(26));
+    EXPECT_EQ(place.right, GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_EQ(place.bottom, GetSystemMetrics(SM_CYSCREEN) - Scale(26));
+    RECT client{};
+    RECT list{};
+    GetClientRect(window_, &client);
+    GetWindowRect(list_, &list);
+    EXPECT_EQ(list.bottom - list.top, client.bottom) << "the list runs under the menu bar";
+}
+
+TEST_F(MainWindowTest, FirstOkClosesThePageSecondSavesTellsAndQuits) {
+    Start();
+    HWND page = OpenPage(0);
+    Tap(page, 1218);
+    SendMessage(window_, WM_COMMAND, IDOK, 0);
+    EXPECT_FALSE(IsWindow(page));
+    ASSERT_TRUE(IsWindow(window_));
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode"))
+        << "written before OK on the list";
+    PumpMessages();
+    EXPECT_EQ(timesTold, 0);
+
+    SendMessage(window_, WM_COMMAND, IDOK, 0);
+    EXPECT_FALSE(IsWindow(window_));
+    EXPECT_EQ(timesTold, 0) << "the message is posted, not sent";
+    EXPECT_FALSE(PumpMessages()) << "the program quits";
+    EXPECT_EQ(timesTold, 1);
+    EXPECT_TRUE(valueWasWritten);
+    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"GoofyMode"), 1u);
+}
+
+TEST_F(MainWindowTest, CancelAsksAndSavesNothing) {
+    Start();
+    Tap(OpenPage(0), 1218);
+    SendMessage(window_, WM_COMMAND, IDOK, 0);
+    {
+        MessageBoxAnswer no(IDNO);
+        SendMessage(window_, WM_COMMAND, IDCANCEL, 0);
+        EXPECT_EQ(no.count, 1);
+        EXPECT_EQ(no.caption, LanguageText(IDS_QUIT_CAPTION).CStr());
+        EXPECT_EQ(no.text, LanguageText(IDS_QUIT_QUESTION).CStr());
+    }
+    ASSERT_TRUE(IsWindow(window_));
+    EXPECT_EQ(settingsStore.GoofyMode.value, 1u) << "what the page changed is kept";
+    EXPECT_EQ(GetFocus(), list_) << "the keys still work after the question";
+
+    MessageBoxAnswer yes(IDYES);
+    SendMessage(window_, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_FALSE(IsWindow(window_));
+    EXPECT_FALSE(PumpMessages());
+    EXPECT_EQ(timesTold, 0);
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode"));
+}
+
+TEST_F(MainWindowTest, ClosedFromOutsideWithAPageOpenSavesNothing) {
+    Start();
+    HWND page = OpenPage(0);
+    Tap(page, 1218);
+    SendMessage(window_, WM_CLOSE, 0, 0);
+    EXPECT_FALSE(IsWindow(window_));
+    EXPECT_FALSE(IsWindow(page));
+    EXPECT_FALSE(PumpMessages());
+    EXPECT_EQ(timesTold, 0);
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode"));
+}
+
+TEST_F(MainWindowTest, StartsWithoutAnyLibrary) {
+    SetText(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Orvane", L"ProgramFiles",
+            L"\\Nowhere");
+    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", L"\\Nowhere.dll");
+    Start();
+    EXPECT_EQ(application.languageLibrary, nullptr);
+    EXPECT_EQ(application.displayLibrary, nullptr);
+    EXPECT_EQ(SendMessage(list_, LVM_GETITEMCOUNT, 0, 0), kPageCount);
+    for (int row = 0; row < kPageCount; ++row) {
+        HWND page = OpenPage(row);
+        ASSERT_NE(page, nullptr) << row;
+        SendMessage(page, WM_COMMAND, IDOK, 0);
+    }
+    SendMessage(window_, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile"), L"\\Nowhere.dll");
+}
+} // namespace

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+// Working real windows the way a user's taps and keys do.
+
+// Handles every message that waits. Gives false when WM_QUIT was among them.
+bool PumpMessages();
+
+std::wstring TextOf(HWND window);
+
+// A tap on a button or box, and a choice from a drop-down list, with what the parent is told.
+void Tap(HWND parent, int id);
+void Choose(HWND parent, int id, int entry);
+
+// The texts of a combo box's entries, parted by "|".
+std::wstring EntriesOf(HWND combo);
+
+// A point in the middle of a window's client area, as a mouse message carries it.
+LPARAM MiddleOf(HWND window);
+
+// Answers the next message boxes of this thread with a button (IDYES …) while it lives, and keeps
+// what the last one said.
+class MessageBoxAnswer {
+  public:
+    explicit MessageBoxAnswer(int button);
+    MessageBoxAnswer(const MessageBoxAnswer&) = delete;
+    MessageBoxAnswer& operator=(const MessageBoxAnswer&) = delete;
+    ~MessageBoxAnswer();
+
+    int count = 0;
+    std::wstring caption;
+    std::wstring text;
+
+  private:
+    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
+
+    int button_;
+    HHOOK hook_;
+};

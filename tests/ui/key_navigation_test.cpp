@@ -1,0 +1,177 @@
+#include "ui/key_navigation.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "shell/services/application.h"
+#include "tests/support/window_support.h"
+#include "ui/controls.h"
+
+namespace {
+constexpr UINT kFirstBox = 1;
+constexpr UINT kDisabledBox = 2;
+constexpr UINT kHiddenBox = 3;
+constexpr UINT kCombo = 4;
+constexpr UINT kEditCombo = 5;
+constexpr UINT kList = 6;
+constexpr UINT kButton = 7;
+
+std::string told;
+
+LRESULT CALLBACK RootProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED)
+        told += "click" + std::to_string(LOWORD(wParam)) + " ";
+    if (message == WM_COMMAND && HIWORD(wParam) == CBN_SELCHANGE && LOWORD(wParam) == kCombo)
+        told += "choice ";
+    if (message == WM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == TCN_SELCHANGE)
+        told += "tab ";
+    return DefWindowProc(window, message, wParam, lParam);
+}
+
+// A window with one control of each kind, in a ring that begins with the tab strip.
+class KeyNavigation : public testing::Test {
+  protected:
+    void SetUp() override {
+        application.instance = GetModuleHandle(nullptr);
+        WNDCLASS rootClass{};
+        rootClass.lpfnWndProc = RootProc;
+        rootClass.lpszClassName = L"KeyNavigationRoot";
+        RegisterClass(&rootClass);
+        root_ = CreateWindowEx(0, L"KeyNavigationRoot", L"", WS_POPUP | WS_VISIBLE, 0, 0, 200, 300,
+                               nullptr, nullptr, application.instance, nullptr);
+        strip_ = Add(WC_TABCONTROL, 0, 100, 280);
+        for (int i = 0; i < 3; ++i) {
+            wchar_t caption[] = L"Tab";
+            TCITEM item{};
+            item.mask = TCIF_TEXT;
+            item.pszText = caption;
+            SendMessage(strip_, TCM_INSERTITEM, static_cast<WPARAM>(i),
+                        reinterpret_cast<LPARAM>(&item));
+        }
+        Add(L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX, kFirstBox, 0);
+        EnableWindow(Add(L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX, kDisabledBox, 20), FALSE);
+        ShowWindow(Add(L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX, kHiddenBox, 40), SW_HIDE);
+        for (HWND combo : {Add(L"COMBOBOX", WS_TABSTOP | CBS_DROPDOWNLIST, kCombo, 60),
+                           Add(L"COMBOBOX", WS_TABSTOP | CBS_DROPDOWN, kEditCombo, 80)}) {
+            for (const wchar_t* entry : {L"one", L"two"})
+                SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+        }
+        HWND list = Add(WC_LISTVIEW, WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL, kList, 100);
+        LVCOLUMN column{};
+        column.mask = LVCF_WIDTH;
+        column.cx = 90;
+        SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+        for (int i = 0; i < 2; ++i) {
+            LVITEM item{};
+            item.iItem = i;
+            SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
+        }
+        Add(L"BUTTON", WS_TABSTOP, kButton, 240);
+        FocusFirstControl(root_);
+        told.clear();
+    }
+    void TearDown() override { DestroyWindow(root_); }
+
+    HWND Add(const wchar_t* className, DWORD style, UINT id, int y) {
+        return CreateControl(root_, className, L"", style, id, {0, y, 100, id == kList ? 120 : 18},
+                             nullptr);
+    }
+
+    // Presses a key where the focus is, through the message loop's two steps.
+    void Press(WPARAM key) {
+        MSG message{};
+        message.hwnd = GetFocus();
+        message.message = WM_KEYDOWN;
+        message.wParam = key;
+        if (!TranslateNavigationKey(root_, message)) SendMessage(message.hwnd, WM_KEYDOWN, key, 0);
+        PumpMessages();
+    }
+
+    // The id of the control of the root that has the focus.
+    UINT Focused() {
+        HWND window = GetFocus();
+        while (window && GetParent(window) != root_)
+            window = GetParent(window);
+        return window == strip_ ? 100 : static_cast<UINT>(GetDlgCtrlID(window));
+    }
+
+    HWND root_ = nullptr;
+    HWND strip_ = nullptr;
+};
+
+TEST_F(KeyNavigation, TabGoesRoundPastHiddenAndDisabledControls) {
+    for (UINT expected : {kCombo, kEditCombo, kList, kButton, 100u, kFirstBox}) {
+        Press(VK_TAB);
+        EXPECT_EQ(Focused(), expected);
+    }
+}
+
+TEST_F(KeyNavigation, DownAndUpLeaveEveryControlAndListsAtTheirEdges) {
+    // The list keeps Down for its second row.
+    for (UINT expected : {kCombo, kEditCombo, kList, kList, kButton, 100u, kFirstBox}) {
+        Press(VK_DOWN);
+        EXPECT_EQ(Focused(), expected);
+    }
+    for (UINT expected : {100u, kButton, kList, kList, kEditCombo, kCombo, kFirstBox}) {
+        Press(VK_UP);
+        EXPECT_EQ(Focused(), expected);
+    }
+}
+
+TEST_F(KeyNavigation, LeftAndRightChooseOnAClosedListAndTellThePage) {
+    HWND combo = GetDlgItem(root_, kCombo);
+    SetFocus(combo);
+    Press(VK_RIGHT);
+    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 0);
+    Press(VK_RIGHT);
+    Press(VK_RIGHT);
+    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 1) << "stops at the last entry";
+    Press(VK_LEFT);
+    Press(VK_LEFT);
+    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 0);
+    EXPECT_EQ(told, "choice choice choice ");
+}
+
+TEST_F(KeyNavigation, AnOpenListHasTheKeysUntilEnter) {
+    HWND combo = GetDlgItem(root_, kCombo);
+    SetFocus(combo);
+    Press(VK_RETURN);
+    ASSERT_TRUE(SendMessage(combo, CB_GETDROPPEDSTATE, 0, 0));
+    Press(VK_DOWN);
+    Press(VK_DOWN);
+    EXPECT_EQ(Focused(), kCombo);
+    Press(VK_RETURN);
+    EXPECT_FALSE(SendMessage(combo, CB_GETDROPPEDSTATE, 0, 0));
+    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 1);
+}
+
+TEST_F(KeyNavigation, EnterPressesAndNeverCloses) {
+    SetFocus(GetDlgItem(root_, kFirstBox));
+    Press(VK_RETURN);
+    EXPECT_TRUE(IsBoxChecked(root_, kFirstBox));
+    SetFocus(GetDlgItem(root_, kButton));
+    Press(VK_RETURN);
+    EXPECT_EQ(told, "click1 click7 ");
+}
+
+TEST_F(KeyNavigation, ArrowsOnTheStripSwitchTabsWithNotice) {
+    SetFocus(strip_);
+    Press(VK_RIGHT);
+    Press(VK_LEFT);
+    Press(VK_LEFT);
+    EXPECT_EQ(SendMessage(strip_, TCM_GETCURSEL, 0, 0), 2) << "the strip is a ring";
+    EXPECT_EQ(told, "tab tab tab ");
+}
+
+TEST_F(KeyNavigation, LeavesOtherWindowsAlone) {
+    MSG message{};
+    message.hwnd = GetDesktopWindow();
+    message.message = WM_KEYDOWN;
+    message.wParam = VK_TAB;
+    EXPECT_FALSE(TranslateNavigationKey(root_, message));
+    message.hwnd = root_;
+    EXPECT_FALSE(TranslateNavigationKey(root_, message));
+}
+} // namespace
