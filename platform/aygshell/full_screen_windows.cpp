@@ -41,7 +41,8 @@ void CreateEmptyBar(HWND dialog) {
 
 // A window that fills the work area in width and starts at its top.
 bool FillsScreen(HWND window) {
-    RECT place, area;
+    RECT place;
+    RECT area;
     GetWindowRect(window, &place);
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     return place.left == area.left && place.top == area.top && place.right == area.right;
@@ -60,7 +61,7 @@ void OnActivated(HWND window, SHACTIVATEINFO& info) {
 void OnDeactivated(HWND window, SHACTIVATEINFO& info) {
     info.fActive = 0;
     info.fSipOnDeactivation = IsInputPanelRaised();
-    const HWND focus = GetFocus();
+    HWND focus = GetFocus();
     if (IsChild(window, focus)) info.hwndLastFocus = focus;
 }
 
@@ -79,7 +80,7 @@ BOOL WINAPI SHInitDialog(SHINITDLGINFO* info) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    const HWND dialog = info->hDlg;
+    HWND dialog = info->hDlg;
     const DWORD flags = info->dwFlags;
     if (flags & SHIDIF_SIPDOWN) SipShowIM(SIPF_OFF);
     if (flags & (SHIDIF_SIZEDLG | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_FULLSCREENNOMENUBAR)) {
@@ -95,7 +96,8 @@ BOOL WINAPI SHInitDialog(SHINITDLGINFO* info) {
     return TRUE;
 }
 
-BOOL WINAPI SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM, SHACTIVATEINFO* info, DWORD) {
+BOOL WINAPI SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM /*lParam*/, SHACTIVATEINFO* info,
+                               DWORD /*flags*/) {
     if (!IsValid(info)) return FALSE;
     if (LOWORD(wParam) == WA_INACTIVE)
         OnDeactivated(window, *info);
@@ -104,7 +106,8 @@ BOOL WINAPI SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM, SHACTIVATEINF
     return TRUE;
 }
 
-BOOL WINAPI SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM, SHACTIVATEINFO* info) {
+BOOL WINAPI SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM /*lParam*/,
+                                    SHACTIVATEINFO* info) {
     if (!IsValid(info) || wParam != SPI_SETSIPINFO || !FillsScreen(window)) return FALSE;
     info->fSipUp = IsInputPanelRaised();
     MoveTo(window, AreaAbovePanel(MenuBar::Of(window) != nullptr));

@@ -17,7 +17,7 @@ class ComPointer {
         if (pointer_) pointer_->Release();
     }
     Interface** Receive() { return &pointer_; }
-    Interface* Get() const { return pointer_; }
+    [[nodiscard]] Interface* Get() const { return pointer_; }
     Interface* operator->() const { return pointer_; }
 
   private:
@@ -41,9 +41,10 @@ bool OpenPicture(LPCWSTR path, ComPointer<IWICFormatConverter>& picture) {
 }
 
 HBITMAP CopyPixels(IWICFormatConverter& picture) {
-    UINT width = 0, height = 0;
+    UINT width = 0;
+    UINT height = 0;
     if (FAILED(picture.GetSize(&width, &height)) || width == 0 || height == 0) return nullptr;
-    const ULONGLONG stride = (width * 3ull + 3) & ~3ull;
+    const ULONGLONG stride = (width * 3ULL + 3) & ~3ULL;
     const ULONGLONG size = stride * height;
     if (size > INT_MAX) return nullptr;
 
@@ -60,7 +61,7 @@ HBITMAP CopyPixels(IWICFormatConverter& picture) {
                       0,
                       0};
     void* pixels = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
     if (!bitmap) return nullptr;
     if (SUCCEEDED(picture.CopyPixels(nullptr, static_cast<UINT>(stride), static_cast<UINT>(size),
                                      static_cast<BYTE*>(pixels))))
@@ -78,11 +79,8 @@ HBITMAP Decode(LPCWSTR path) {
 
 extern "C" HBITMAP WINAPI SHLoadImageFile(LPCWSTR path) {
     if (!path) return nullptr;
-    const auto bitmap =
-        static_cast<HBITMAP>(LoadImageW(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
-    if (bitmap) return bitmap;
     const HRESULT started = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    const HBITMAP decoded = Decode(path);
+    HBITMAP bitmap = Decode(path);
     if (SUCCEEDED(started)) CoUninitialize();
-    return decoded;
+    return bitmap;
 }

@@ -25,11 +25,11 @@ RECT PanelPlace() {
 
 void OnPaint(HWND window) {
     PAINTSTRUCT paint;
-    const HDC dc = BeginPaint(window, &paint);
+    HDC dc = BeginPaint(window, &paint);
     RECT client;
     GetClientRect(window, &client);
-    const HFONT font = CreateMenuBarFont();
-    const HGDIOBJ previous = SelectObject(dc, font);
+    HFONT font = CreateMenuBarFont();
+    HGDIOBJ previous = SelectObject(dc, font);
     SetBkColor(dc, kPanel);
     SetTextColor(dc, kLabelInk);
     ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &client, nullptr, 0, nullptr);
@@ -49,6 +49,9 @@ LRESULT CALLBACK PanelProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     switch (message) {
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
+    case WM_ACTIVATE:
+        ShellPassActivationOn(wParam);
+        return 0;
     case WM_PAINT:
         OnPaint(window);
         return 0;
@@ -72,7 +75,7 @@ HWND CreatePanel() {
                            place.bottom - place.top, nullptr, nullptr, nullptr, nullptr);
 }
 
-BOOL CALLBACK TellWindow(HWND window, LPARAM) {
+BOOL CALLBACK TellWindow(HWND window, LPARAM /*param*/) {
     SendMessageW(window, WM_SETTINGCHANGE, SPI_SETSIPINFO, 0);
     return TRUE;
 }

@@ -59,8 +59,14 @@ MenuBar::~MenuBar() {
     std::erase(bars, this);
     RemoveSoftKeyUser();
     if (ownImages_) ImageList_Destroy(ownImages_);
-    if (menu_) DestroyMenu(menu_);
     DeleteObject(font_);
+    if (openMenu_) {
+        *openMenu_ = {true, menu_};
+        // EndMenu would tell the menu's own window, which may be about to go with this bar's owner.
+        PostThreadMessageW(GetCurrentThreadId(), WM_CANCELMODE, 0, 0);
+    } else if (menu_) {
+        DestroyMenu(menu_);
+    }
 }
 
 bool MenuBar::CreateBarWindow(bool visible) {
@@ -96,6 +102,9 @@ LRESULT MenuBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
+    case WM_ACTIVATE:
+        ShellPassActivationOn(wParam);
+        return 0;
     case WM_LBUTTONDOWN:
     case WM_MOUSEMOVE:
     case WM_LBUTTONUP:
@@ -159,8 +168,8 @@ void MenuBar::PlaceOnScreen() {
 void MenuBar::Arrange() {
     RECT client;
     GetClientRect(window_, &client);
-    const HDC dc = GetDC(window_);
-    const HGDIOBJ previous = SelectObject(dc, font_);
+    HDC dc = GetDC(window_);
+    HGDIOBJ previous = SelectObject(dc, font_);
     LayOutMenuBar(dc, client.right, client.bottom, items_,
                   hasPanelButton_ ? &panelButton_ : nullptr);
     SelectObject(dc, previous);
@@ -170,10 +179,10 @@ void MenuBar::Arrange() {
 
 void MenuBar::OnPaint() {
     PAINTSTRUCT paint;
-    const HDC dc = BeginPaint(window_, &paint);
+    HDC dc = BeginPaint(window_, &paint);
     RECT client;
     GetClientRect(window_, &client);
-    const HGDIOBJ previous = SelectObject(dc, font_);
+    HGDIOBJ previous = SelectObject(dc, font_);
     PaintMenuBar(dc, client,
                  {items_, images_, background_, pressed_ >= 0 ? &items_[pressed_] : nullptr,
                   hasPanelButton_ ? &panelButton_ : nullptr,
@@ -212,14 +221,19 @@ void MenuBar::Activate(int index, bool byKey) {
 }
 
 void MenuBar::OpenMenu(int index, bool byKey) {
-    const HMENU popup = items_[index].popup;
+    HMENU popup = items_[index].popup;
     if (!IsMenu(popup)) return; // Deleted by the program.
     SetPressed(index);
     UpdateWindow(window_);
     if (byKey) PostMessageW(parent_, WM_KEYDOWN, VK_DOWN, 1); // Selects the first entry.
-    const HWND window = window_;
+    OpenMenuState state;
+    openMenu_ = &state;
     TrackMenu(popup, items_[index].place);
-    if (!IsWindow(window)) return; // Destroyed while the menu was open.
+    if (state.barDestroyed) {
+        if (state.menu) DestroyMenu(state.menu);
+        return;
+    }
+    openMenu_ = nullptr;
     SetPressed(kNoItem);
     SwallowTapOn(index);
 }

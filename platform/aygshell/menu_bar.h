@@ -25,6 +25,13 @@ class MenuBar {
         WORD flags; // SHMBOF_*
     };
 
+    // A bar may be destroyed while its menu is open. The menu then lives until it is closed: Wine
+    // hangs when an open menu is destroyed.
+    struct OpenMenuState {
+        bool barDestroyed = false;
+        HMENU menu = nullptr; // To be destroyed after that.
+    };
+
     MenuBar(const SHMENUBARINFO& info, MenuBarContent content);
     ~MenuBar();
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -47,7 +54,7 @@ class MenuBar {
     LRESULT GetPlace(size_t index, RECT* place) const;
     LRESULT SetImages(HIMAGELIST images);
 
-    // Items by index; kPanelButton and kNoItem besides.
+    // Items are meant by their index; negative numbers are the panel button and no item.
     [[nodiscard]] int HitTest(POINT point) const;
     [[nodiscard]] bool CanPress(int index) const;
     void SetPressed(int index);
@@ -69,5 +76,6 @@ class MenuBar {
     RECT panelButton_ = {};
     int held_; // What the pointer went down on.
     int pressed_;
+    OpenMenuState* openMenu_ = nullptr; // While a menu of the bar is open.
     std::vector<KeyOverride> overrides_;
 };

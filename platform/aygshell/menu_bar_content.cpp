@@ -105,7 +105,7 @@ bool AddButtons(MenuBarContent& content, HINSTANCE module, const BYTE* next, con
 }
 
 std::optional<MenuBarContent> LoadFromBarResource(HINSTANCE module, UINT id) {
-    const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
+    HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
     if (!resource) return {};
     const auto* next = static_cast<const BYTE*>(LockResource(LoadResource(module, resource)));
     const BYTE* end = next + SizeofResource(module, resource);

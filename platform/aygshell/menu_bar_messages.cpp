@@ -62,7 +62,8 @@ LRESULT MenuBar::SetSubMenu(UINT id, HMENU popup) {
 }
 
 LRESULT MenuBar::OverrideKey(WORD key, LPARAM maskAndFlags) {
-    const WORD mask = LOWORD(maskAndFlags), flags = HIWORD(maskAndFlags);
+    const WORD mask = LOWORD(maskAndFlags);
+    const WORD flags = HIWORD(maskAndFlags);
     auto found = std::ranges::find(overrides_, key, &KeyOverride::key);
     if (found == overrides_.end()) found = overrides_.insert(found, {key, 0});
     found->flags = static_cast<WORD>((found->flags & ~mask) | (flags & mask));
@@ -111,7 +112,7 @@ LRESULT MenuBar::GetPlace(size_t index, RECT* place) const {
 
 // Gives the list before, which the program owns unless the bar loaded it itself.
 LRESULT MenuBar::SetImages(HIMAGELIST images) {
-    const HIMAGELIST previous = std::exchange(images_, images);
+    HIMAGELIST previous = std::exchange(images_, images);
     InvalidateRect(window_, nullptr, FALSE);
     return reinterpret_cast<LRESULT>(previous);
 }

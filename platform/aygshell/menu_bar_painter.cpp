@@ -26,7 +26,8 @@ void PaintText(HDC dc, const MenuBarItem& item, bool pressed) {
 }
 
 void PaintIcon(HDC dc, const MenuBarItem& item, const MenuBarLook& look) {
-    int width, height;
+    int width;
+    int height;
     if (!ImageList_GetIconSize(look.images, &width, &height)) return;
     const int x = (item.place.left + item.place.right - width) / 2;
     const int y = (item.place.top + item.place.bottom - height) / 2;
@@ -50,7 +51,8 @@ void PaintPanelButton(HDC dc, const RECT& place, bool pressed, COLORREF backgrou
     const int left = (place.left + place.right - 17 * unit) / 2;
     const int top = (place.top + place.bottom - 11 * unit) / 2;
     const auto box = [&](int x, int y, int width, int height, COLORREF colour) {
-        const int right = left + (x + width) * unit, bottom = top + (y + height) * unit;
+        const int right = left + (x + width) * unit;
+        const int bottom = top + (y + height) * unit;
         Fill(dc, {left + x * unit, top + y * unit, right, bottom}, colour);
     };
     const COLORREF plate = pressed ? kPressedInk : kKeyboard;

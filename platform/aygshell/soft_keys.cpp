@@ -16,7 +16,7 @@ bool IsMenuOpen() {
 
 // Posts what the key does: a menu must not open inside the hook.
 bool HandleSoftKey(WORD key, bool released) {
-    const HWND active = GetAncestor(GetFocus(), GA_ROOT);
+    HWND active = GetAncestor(GetFocus(), GA_ROOT);
     const MenuBar* bar = active ? MenuBar::Of(active) : nullptr;
     if (!bar || bar->IsOverridden(key)) return false;
     if (released) return true;

@@ -10,7 +10,7 @@ constexpr char16_t kReplacement = 0xFFFD;
 std::string_view TakeUntil(std::string_view& rest, char separator) {
     const std::size_t end = rest.find(separator);
     const std::string_view taken = rest.substr(0, end);
-    rest.remove_prefix(end == rest.npos ? rest.size() : end + 1);
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
     return taken;
 }
 
@@ -37,9 +37,9 @@ std::size_t SequenceLength(unsigned char lead) {
 // Takes off one character; one byte only where the bytes are no character.
 char32_t TakeCodePoint(std::string_view& rest) {
     constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
-    const unsigned char lead = static_cast<unsigned char>(rest[0]);
+    const auto lead = static_cast<unsigned char>(rest[0]);
     const std::size_t length = SequenceLength(lead);
-    char32_t point = length == 1 ? lead : lead & (0xFFu >> (length + 1));
+    char32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
     bool isSound = length != 0 && length <= rest.size();
     for (std::size_t i = 1; isSound && i < length; ++i) {
         isSound = IsContinuation(rest[i]);
@@ -83,7 +83,7 @@ std::vector<CategoryRecord> ParseCategoryText(std::string_view text) {
     while (!text.empty()) {
         std::string_view line = TakeUntil(text, '\n');
         if (line.ends_with('\r')) line.remove_suffix(1);
-        const bool isBlank = line.find_first_not_of(" \t") == line.npos;
+        const bool isBlank = line.find_first_not_of(" \t") == std::string_view::npos;
         if (!isBlank && line[0] != '#') records.push_back(ParseRecord(line));
     }
     return records;

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr LONG kMaxPictureSide = 16384;
-constexpr std::size_t kMaxBitmapFile = 64u << 20;
+constexpr std::size_t kMaxBitmapFile = 64U << 20;
 
 // A memory context on a bitmap; false when another context holds the bitmap.
 class BitmapDc {
@@ -139,7 +139,7 @@ class BitmapFile {
                Read(sizeof file_, &info_.header, sizeof info_.header);
     }
 
-    bool HeaderIsSound() const {
+    [[nodiscard]] bool HeaderIsSound() const {
         const BITMAPINFOHEADER& header = info_.header;
         const auto isOneOf = [](auto value, auto... choices) {
             return ((value == choices) || ...);
@@ -164,17 +164,17 @@ class BitmapFile {
         if (header.biCompression == BI_BITFIELDS)
             return Read(sizeof file_ + sizeof header, info_.colors, 3 * sizeof(DWORD));
         if (header.biBitCount > 8) return true;
-        const DWORD most = 1u << header.biBitCount;
+        const DWORD most = 1U << header.biBitCount;
         header.biClrUsed = usedColors == 0 ? most : std::min(usedColors, most);
         return Read(behind, info_.colors, header.biClrUsed * sizeof(DWORD));
     }
 
-    std::size_t PixelBytes() const {
+    [[nodiscard]] std::size_t PixelBytes() const {
         const std::size_t rowBits = std::size_t{info_.header.biBitCount} * info_.header.biWidth;
         return (rowBits + 31) / 32 * 4 * std::abs(info_.header.biHeight);
     }
 
-    bool HasAllPixels() const {
+    [[nodiscard]] bool HasAllPixels() const {
         return file_.bfOffBits <= bytes_.size() && PixelBytes() <= bytes_.size() - file_.bfOffBits;
     }
 

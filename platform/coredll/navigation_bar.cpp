@@ -53,9 +53,14 @@ int TextWidth(HDC dc, const wchar_t* text) {
 
 } // namespace
 
+bool NavigationBar::Create() {
+    bar = new (std::nothrow) NavigationBar;
+    if (bar && !bar->CreateBarWindow()) delete std::exchange(bar, nullptr);
+    return bar != nullptr;
+}
+
 void NavigationBar::Show(HWND window) {
-    if (!bar) bar = new (std::nothrow) NavigationBar;
-    if (!bar || (!bar->window_ && !bar->CreateBarWindow())) return;
+    if (!bar && !Create()) return;
     const bool wasHidden = !IsWindowVisible(bar->window_);
     bar->shown_ = window;
     SetWindowPos(bar->window_, HWND_TOP, 0, 0, 0, 0,
@@ -76,7 +81,7 @@ void NavigationBar::Hide() {
 
 void NavigationBar::Leave(HWND window) {
     if (!bar || bar->shown_ != window) return;
-    const HWND active = GetActiveWindow();
+    HWND active = GetActiveWindow();
     bar->shown_ = active != window && IsFramed(active) ? active : nullptr;
     Refresh();
 }
@@ -123,6 +128,9 @@ LRESULT NavigationBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
+    case WM_ACTIVATE:
+        ShellPassActivationOn(wParam);
+        return 0;
     case WM_LBUTTONDOWN:
         OnButtonDown(point);
         return 0;
@@ -213,7 +221,7 @@ void NavigationBar::PressClose() {
 void NavigationBar::StartMinute() {
     SYSTEMTIME now;
     GetLocalTime(&now);
-    const UINT passed = now.wSecond * 1000u + now.wMilliseconds;
+    const UINT passed = now.wSecond * 1000U + now.wMilliseconds;
     SetTimer(window_, kMinuteTimer, kMillisecondsPerMinute - passed + 1, nullptr);
 }
 
@@ -241,7 +249,7 @@ void NavigationBar::Paint(HDC dc) {
     FillBand(dc, edge, kBandEdge);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, kText);
-    const HGDIOBJ previous = SelectObject(dc, titleFont_);
+    HGDIOBJ previous = SelectObject(dc, titleFont_);
     PaintTitle(dc, band);
     PaintButton(dc);
     SelectObject(dc, previous);
@@ -278,8 +286,10 @@ void NavigationBar::PaintButton(HDC dc) {
     if (button == Button::None) return;
     RECT place = ButtonPlace();
     place.bottom -= ShellScale(1);
-    const double x = (place.left + place.right) / 2.0, y = (place.top + place.bottom) / 2.0;
-    const double radius = ShellScale(kButtonUnits) / 2.0, line = ShellScale(3) / 2.0;
+    const double x = (place.left + place.right) / 2.0;
+    const double y = (place.top + place.bottom) / 2.0;
+    const double radius = ShellScale(kButtonUnits) / 2.0;
+    const double line = ShellScale(3) / 2.0;
     FillStroke(dc, {x, y, x, y, radius}, kText);
     if (!pressed_) FillStroke(dc, {x, y, x, y, radius - line}, kBand);
 

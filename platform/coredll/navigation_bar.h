@@ -22,6 +22,7 @@ class NavigationBar {
   private:
     enum class Button { None, Ok, Close };
 
+    static bool Create();
     NavigationBar();
     ~NavigationBar();
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

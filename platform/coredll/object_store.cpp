@@ -17,7 +17,7 @@ namespace {
 
 constexpr wchar_t kDatabaseName[] = L"\\Categories Database";
 constexpr wchar_t kDefaultFolder[] = L"\\Object Store";
-constexpr std::size_t kMaxDatabaseFile = 1u << 20;
+constexpr std::size_t kMaxDatabaseFile = 1U << 20;
 
 // Ids are arbitrary but for 0, which stands for none.
 constexpr CEOID kDatabaseOid = 0x0100'0001;
@@ -83,8 +83,8 @@ DWORD CheckOpening(const CEGUID* volume, const CEOID* oid, LPCWSTR name, CEPROPI
 // Where a seek leads; behind the last record when it leads to none. `value` counts records, which
 // CEDB_SEEK_CURRENT takes as signed whatever the width of the argument.
 std::size_t SeekTarget(const Database& database, DWORD seekType, DWORD_PTR value) {
-    const LONGLONG count = static_cast<LONGLONG>(database.records.size());
-    const DWORD steps = static_cast<DWORD>(value);
+    const auto count = static_cast<LONGLONG>(database.records.size());
+    const auto steps = static_cast<DWORD>(value);
     LONGLONG target = count;
     if (seekType == CEDB_SEEK_CEOID) target = LONGLONG{steps} - kFirstRecordOid;
     if (seekType == CEDB_SEEK_BEGINNING) target = steps;
@@ -130,13 +130,13 @@ std::size_t TextBytes(const CEPROPVAL& property) {
 // Where the caller wants a record.
 struct ReadBuffer {
     LPBYTE* bytes;
-    LPDWORD size;
+    DWORD& size;
     bool mayGrow;
     HANDLE heap;
 
     // Makes room for so many bytes. ERROR_SUCCESS, or why there is none.
     [[nodiscard]] DWORD MakeRoom(std::size_t needed) const {
-        if (*bytes && *size >= needed) return ERROR_SUCCESS;
+        if (*bytes && size >= needed) return ERROR_SUCCESS;
         if (!mayGrow) return ERROR_INSUFFICIENT_BUFFER;
         void* room = heap ? HeapAlloc(heap, 0, needed) : LocalAlloc(LMEM_FIXED, needed);
         if (!room) return ERROR_NOT_ENOUGH_MEMORY;
@@ -153,7 +153,7 @@ struct ReadBuffer {
         for (const CEPROPVAL& property : properties)
             needed += TextBytes(property);
         const DWORD result = MakeRoom(needed);
-        *size = static_cast<DWORD>(needed);
+        size = static_cast<DWORD>(needed);
         if (result != ERROR_SUCCESS) return result;
         LPBYTE text = *bytes + tableBytes;
         for (CEPROPVAL& property : properties) {
@@ -217,36 +217,36 @@ HANDLE WINAPI CeOpenDatabaseEx(PCEGUID volume, PCEOID oid, LPWSTR name, CEPROPID
 
 // Counts from the first record for CEDB_SEEK_BEGINNING and back from the last for CEDB_SEEK_END. A
 // seek that finds nothing leaves the pointer behind the last record, with ERROR_SEEK.
-CEOID WINAPI CeSeekDatabase(HANDLE handle, DWORD seekType, DWORD_PTR value, LPDWORD index) {
+CEOID WINAPI CeSeekDatabase(HANDLE database, DWORD seekType, DWORD_PTR value, LPDWORD index) {
     const LockScope scope;
-    const auto found = FindDatabase(handle);
+    const auto found = FindDatabase(database);
     if (found == openDatabases.end() || !IsPositionSeek(seekType)) {
         SetLastError(found == openDatabases.end() ? ERROR_INVALID_HANDLE : ERROR_INVALID_PARAMETER);
         return 0;
     }
-    Database& database = **found;
-    database.position = SeekTarget(database, seekType, value);
-    if (database.position == database.records.size()) {
+    Database& opened = **found;
+    opened.position = SeekTarget(opened, seekType, value);
+    if (opened.position == opened.records.size()) {
         SetLastError(ERROR_SEEK);
         return 0;
     }
-    if (index) *index = static_cast<DWORD>(database.position);
-    return OidOf(database.position);
+    if (index) *index = static_cast<DWORD>(opened.position);
+    return OidOf(opened.position);
 }
 
 // Steps to the next record only where the database was opened with CEDB_AUTOINCREMENT; without, the
 // caller seeks. Behind the last record: 0 with ERROR_NO_MORE_ITEMS.
-CEOID WINAPI CeReadRecordPropsEx(HANDLE handle, DWORD flags, LPWORD count, CEPROPID* ids,
-                                 LPBYTE* buffer, LPDWORD size, HANDLE heap) {
+CEOID WINAPI CeReadRecordPropsEx(HANDLE database, DWORD flags, LPWORD propCount, CEPROPID* propIds,
+                                 LPBYTE* buffer, LPDWORD bufferSize, HANDLE heap) {
     const LockScope scope;
-    const auto found = FindDatabase(handle);
-    if (found == openDatabases.end() || !count || !buffer || !size) {
+    const auto found = FindDatabase(database);
+    if (found == openDatabases.end() || !propCount || !buffer || !bufferSize) {
         SetLastError(found == openDatabases.end() ? ERROR_INVALID_HANDLE : ERROR_INVALID_PARAMETER);
         return 0;
     }
     const CEOID oid = OidOf((*found)->position);
-    const ReadBuffer target{buffer, size, (flags & CEDB_ALLOWREALLOC) != 0, heap};
-    const DWORD result = ReadCurrent(**found, ids, *count, target);
+    const ReadBuffer target{buffer, *bufferSize, (flags & CEDB_ALLOWREALLOC) != 0, heap};
+    const DWORD result = ReadCurrent(**found, propIds, *propCount, target);
     if (result == ERROR_SUCCESS) return oid;
     SetLastError(result);
     return 0;

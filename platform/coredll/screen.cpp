@@ -8,7 +8,7 @@ namespace {
 int Density() {
     static int density = 0;
     if (density == 0) {
-        const HDC screen = GetDC(nullptr);
+        HDC screen = GetDC(nullptr);
         density = GetDeviceCaps(screen, LOGPIXELSY);
         ReleaseDC(nullptr, screen);
     }

@@ -23,6 +23,11 @@ int WINAPI ShellScale(int units);
 // window that has a place keeps it and takes the flags.
 void WINAPI ShellFrameWindow(HWND window, DWORD flags);
 
+// Passes the activation that a bar got on to the topmost window that has a place in the navigation
+// bar. For WM_ACTIVATE of windows that must never be active: where the active window goes away and
+// has no owner, Wine gives the activation to the next window, whatever its style.
+void WINAPI ShellPassActivationOn(WPARAM activation);
+
 // Sends, later, what a tap on the "ok" button of the navigation bar sends at once. FALSE when the
 // bar shows none, or when its window is disabled or not the active one.
 BOOL WINAPI ShellPostOk();

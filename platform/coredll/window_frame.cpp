@@ -35,7 +35,7 @@ void FillNewWorkArea(Frame& frame) {
                         place.right == before.right && gap >= 0 &&
                         gap < (before.bottom - before.top) / 2;
     if (!filled || EqualRect(&before, &now)) return;
-    const HWND window = frame.window; // Moving it may run the program's code, and so move frames.
+    HWND window = frame.window; // Moving it may run the program's code, and so move frames.
     MoveWindow(window, now.left, now.top, now.right - now.left, now.bottom - gap - now.top, TRUE);
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -97,7 +97,18 @@ DWORD FlagsOf(HWND window) {
     return frame ? frame->flags : 0;
 }
 
-extern "C" void WINAPI ShellFrameWindow(HWND window, DWORD flags) {
+extern "C" {
+
+void WINAPI ShellPassActivationOn(WPARAM activation) {
+    if (LOWORD(activation) == WA_INACTIVE) return;
+    for (HWND next = GetTopWindow(nullptr); next; next = GetWindow(next, GW_HWNDNEXT))
+        if (IsFramed(next) && IsWindowVisible(next) && IsWindowEnabled(next)) {
+            SetActiveWindow(next);
+            return;
+        }
+}
+
+void WINAPI ShellFrameWindow(HWND window, DWORD flags) {
     if (Frame* frame = FindFrame(window)) {
         frame->flags |= flags;
     } else {
@@ -109,3 +120,5 @@ extern "C" void WINAPI ShellFrameWindow(HWND window, DWORD flags) {
     // A window created visible was activated before it had its place.
     if (GetActiveWindow() == window) NavigationBar::Show(window);
 }
+
+} // extern "C"

@@ -41,7 +41,7 @@ bool HasPlaceInBar(DWORD style, DWORD exStyle, const Placement& place) {
 HWND CreateWithoutCaption(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style,
                           const Placement& place, HWND owner, HMENU menu, HINSTANCE instance,
                           LPVOID param) {
-    const HWND window =
+    HWND window =
         CreateWindowExW(exStyle, className, title, (style & ~kBorders) | WS_POPUP, place.x, place.y,
                         place.width, place.height, owner, menu, instance, param);
     if (window)
@@ -63,11 +63,10 @@ HWND WINAPI CoreCreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR title,
 
     const Placement place = ReplaceDefaults({x, y, width, height});
     const bool popup = (style & WS_POPUP) != 0;
-    const HWND window =
-        popup ? CreateWindowExW(exStyle, className, title, style, place.x, place.y, place.width,
-                                place.height, parent, menu, instance, param)
-              : CreateWithoutCaption(exStyle, className, title, style, place, parent, menu,
-                                     instance, param);
+    HWND window = popup ? CreateWindowExW(exStyle, className, title, style, place.x, place.y,
+                                          place.width, place.height, parent, menu, instance, param)
+                        : CreateWithoutCaption(exStyle, className, title, style, place, parent,
+                                               menu, instance, param);
     if (window && HasPlaceInBar(style, exStyle, place)) {
         const bool ownTitle = !popup || (style & WS_CAPTION) == WS_CAPTION;
         ShellFrameWindow(window, ownTitle ? kFrameOwnTitle : kFramePlain);
@@ -79,7 +78,7 @@ HWND WINAPI CoreCreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR title,
 BOOL WINAPI CoreSetForegroundWindow(HWND window) {
     const auto value = reinterpret_cast<UINT_PTR>(window);
     if (!(value & 1)) return SetForegroundWindow(window);
-    const HWND owner = reinterpret_cast<HWND>(value & ~UINT_PTR{1});
+    HWND owner = reinterpret_cast<HWND>(value & ~UINT_PTR{1});
     if (IsIconic(owner)) ShowWindow(owner, SW_RESTORE);
     return SetForegroundWindow(GetLastActivePopup(owner));
 }

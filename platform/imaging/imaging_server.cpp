@@ -25,7 +25,7 @@ class ImagingClass final : public ComObject<IClassFactory, IID_IClassFactory> {
 };
 
 LONG SetText(HKEY key, LPCWSTR name, LPCWSTR text) {
-    const DWORD bytes = static_cast<DWORD>((wcslen(text) + 1) * sizeof(wchar_t));
+    const auto bytes = static_cast<DWORD>((wcslen(text) + 1) * sizeof(wchar_t));
     return RegSetValueExW(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), bytes);
 }
 

@@ -34,7 +34,7 @@ std::uint32_t Average(const Picture& picture, Range columns, Range rows) {
             const std::uint32_t pixel = picture.pixels[std::size_t{y} * picture.width + x];
             alpha += Alpha(pixel);
             for (unsigned i = 0; i < 3; ++i)
-                colors[i] += Channel(pixel, 8 * i) * Alpha(pixel);
+                colors[i] += std::uint64_t{Channel(pixel, 8 * i)} * Alpha(pixel);
         }
     }
     if (alpha == 0) return 0;

@@ -9,7 +9,7 @@
 #include <imaging.h>
 
 constexpr UINT kMaxPictureSide = 16384;
-constexpr std::size_t kMaxPicturePixels = 16u << 20;
+constexpr std::size_t kMaxPicturePixels = 16U << 20;
 
 // Straight (not premultiplied) ARGB pixels, the top row first. Empty, without pixels, until
 // allocated.

@@ -6,17 +6,17 @@
 
 // Kinds of call, as sets: combine them with |.
 enum StandInCalls : ULONG {
-    kRegCreateKeyCalls = 1u << 0,
-    kRegOpenKeyCalls = 1u << 1,
-    kRegCloseKeyCalls = 1u << 2,
-    kRegFlushKeyCalls = 1u << 3,
-    kRegDeleteKeyCalls = 1u << 4,
-    kRegEnumKeyCalls = 1u << 5,
-    kRegQueryValueCalls = 1u << 6,
-    kRegSetValueCalls = 1u << 7,
-    kRegDeleteValueCalls = 1u << 8,
-    kRegEnumValueCalls = 1u << 9,
-    kRegistryCalls = (1u << 10) - 1,
+    kRegCreateKeyCalls = 1U << 0,
+    kRegOpenKeyCalls = 1U << 1,
+    kRegCloseKeyCalls = 1U << 2,
+    kRegFlushKeyCalls = 1U << 3,
+    kRegDeleteKeyCalls = 1U << 4,
+    kRegEnumKeyCalls = 1U << 5,
+    kRegQueryValueCalls = 1U << 6,
+    kRegSetValueCalls = 1U << 7,
+    kRegDeleteValueCalls = 1U << 8,
+    kRegEnumValueCalls = 1U << 9,
+    kRegistryCalls = (1U << 10) - 1,
 };
 
 extern "C" {

@@ -8,19 +8,19 @@
 
 namespace computed_defaults {
 
-uint32_t HeightLimit(const SettingsStore&) {
+uint32_t HeightLimit(const SettingsStore& /*store*/) {
     return static_cast<uint32_t>(ScaleY(160));
 }
 
-uint32_t MonthIconSize(const SettingsStore&) {
+uint32_t MonthIconSize(const SettingsStore& /*store*/) {
     return static_cast<uint32_t>(Scale(6));
 }
 
-uint32_t FontHeight(const SettingsStore&) {
+uint32_t FontHeight(const SettingsStore& /*store*/) {
     return static_cast<uint32_t>(Scale(12));
 }
 
-uint32_t FirstDayOfWeek(const SettingsStore&) {
+uint32_t FirstDayOfWeek(const SettingsStore& /*store*/) {
     wchar_t text[5] = {};
     GetLocaleInfo(LOCALE_USER_DEFAULT, LOCALE_IFIRSTDAYOFWEEK, text,
                   static_cast<int>(std::size(text)));

@@ -60,7 +60,7 @@ struct RowSaver {
     void operator()(const DwordRow& row) const { (store.*row.member).Save(key); }
     void operator()(const TextRow& row) const { (store.*row.member).Save(key); }
     void operator()(const FontRow& row) const { (store.*row.member).Save(key); }
-    void operator()(const BitsRow&) const {} // Never written, see BitsSetting.
+    void operator()(const BitsRow& /*row*/) const {} // Never written, see BitsSetting.
 };
 
 } // namespace

@@ -120,6 +120,7 @@ HWND Program::OpenPage(int row, const wchar_t* className) const {
     const auto spacing = static_cast<DWORD>(SendMessage(list, LVM_GETITEMSPACING, FALSE, 0));
     const int width = LOWORD(spacing);
     const int height = HIWORD(spacing);
+    if (width == 0) return nullptr;
     RECT place{};
     GetWindowRect(list, &place);
     const int columns = (place.right - place.left) / width;

@@ -52,9 +52,10 @@ DWORD RunInCopy(const std::wstring& copy) {
     std::wstring command = L"\"" + copy + L"\" --gtest_filter=ResourceStrings.NoLibrary*";
     STARTUPINFOW start = {};
     start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES; // None: its report would look like this program's.
     PROCESS_INFORMATION child = {};
     SetEnvironmentVariableW(kCopyVariable, L"1");
-    const BOOL started = CreateProcessW(copy.c_str(), command.data(), nullptr, nullptr, TRUE, 0,
+    const BOOL started = CreateProcessW(copy.c_str(), command.data(), nullptr, nullptr, FALSE, 0,
                                         nullptr, nullptr, &start, &child);
     SetEnvironmentVariableW(kCopyVariable, nullptr);
     DWORD exitCode = ~0U;

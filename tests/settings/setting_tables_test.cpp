@@ -255,6 +255,66 @@ TEST_F(SettingTables, RowsAreWrittenInLoadOrderButTheTasks) {
                   L"TsksCustomDateStruct", L"CustomDateFrmtStart", L"CustomDateFrmtEnd"}));
 }
 
+// How many values each key has, and how many of them are written: a row that is lost, or whose mark
+// is wrong, shows nowhere else.
+TEST_F(SettingTables, HoldAllValuesOfTheirKeys) {
+    struct Count {
+        const SettingTable& table;
+        size_t rows;
+        size_t written;
+    };
+    const Count counts[] = {
+        {kTodayItemTable, 1, 0},    {kPocketInformantTable, 4, 0},
+        {kAgendaFusionTable, 1, 0}, {kRootTable, 32, 32},
+        {kCalendarTable, 83, 79},   {kTasksTable, 32, 18},
+        {kNotesTable, 19, 7},       {kContactsTable, 25, 14},
+        {kMessagesTable, 13, 7},    {kSpecialEventsTable, 17, 13},
+        {kFontsTable, 39, 39},      {kColoursTable, 16, 16},
+        {kPimTable, 7, 7},          {kTabModeTable, 3, 3},
+        {kOwnTabTable, 12, 12},     {kDefaultTabTable, 3, 3},
+        {kCategoriesTable, 1, 1},
+    };
+    ASSERT_EQ(std::size(counts), AllSettingTables().size());
+    for (size_t at = 0; at < std::size(counts); ++at) {
+        EXPECT_EQ(AllSettingTables()[at], &counts[at].table);
+        EXPECT_EQ(counts[at].table.rows.size(), counts[at].rows) << at;
+        EXPECT_EQ(counts[at].table.saveOrder.size(), counts[at].written) << at;
+    }
+}
+
+// A key that cannot be opened costs its own settings only, and is not tried again for each.
+TEST_F(SettingTables, AKeyThatCannotBeOpenedGivesDefaults) {
+    const auto sample = [](const SettingTable& table) -> const SettingRow& {
+        return table.rows[table.rows.size() > 1 ? 1 : 0];
+    };
+    // Those whose key is created; the tables of the tabs share one, of which the first speaks.
+    std::vector<const SettingTable*> tables;
+    for (const SettingTable* table : AllSettingTables()) {
+        if (table == &kTodayItemTable || table == &kOwnTabTable || table == &kDefaultTabTable)
+            continue;
+        tables.push_back(table);
+        const GroupKey key = KeyOfGroup(table->group);
+        const SettingRow& row = sample(*table);
+        if (std::holds_alternative<TextRow>(row.what)) {
+            SetText(key.root, key.path, NamesOf(row)[0], L"4711");
+        } else {
+            SetNumber(key.root, key.path, NamesOf(row)[0], 4711);
+        }
+    }
+    for (size_t failing = 0; failing < tables.size(); ++failing) {
+        SettingsStore store;
+        StandInResetCalls();
+        StandInFailCall(kRegCreateKeyCalls, static_cast<ULONG>(failing) + 1, ERROR_ACCESS_DENIED);
+        LoadInto(store);
+        EXPECT_EQ(StandInCallCount(kRegCreateKeyCalls), tables.size());
+        for (size_t at = 0; at < tables.size(); ++at) {
+            const SettingRow& row = sample(*tables[at]);
+            EXPECT_EQ(ShownIn(store, row) == L"4711", at != failing) << NamesOf(row)[0];
+        }
+        EXPECT_FALSE(store.FontSEGroupingTtls.colour.name.IsEmpty());
+    }
+}
+
 // Whatever stands under the names loads, and what is not repaired is left alone by a save.
 TEST_F(SettingTables, AnyValuesLoadAndStay) {
     std::mt19937 random(20);

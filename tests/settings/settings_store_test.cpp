@@ -291,47 +291,6 @@ TEST_F(SettingsStoreTest, ProbesAskForAValueAndCreateNothing) {
     }
 }
 
-// A key that cannot be opened costs its own settings only, and is not tried again for each.
-TEST_F(SettingsStoreTest, KeysThatCannotBeOpenedGiveDefaults) {
-    SetText(HKEY_CURRENT_USER, kPocketInformant, L"IconPath", L"stored");
-    SetText(HKEY_LOCAL_MACHINE, kAgendaFusion, L"Core.Categories", L"stored");
-    const wchar_t* subkeys[] = {L"",           L"\\Calendar",  L"\\Tasks",       L"\\Notes",
-                                L"\\Contacts", L"\\Messages",  L"\\SEvents",     L"\\Fonts",
-                                L"\\Colors",   L"\\CustomPIM", L"\\TabSettings", L"\\Categories"};
-    const wchar_t* numbers[] = {
-        L"NoteZoom",       L"dDayBreaker",  L"TsksSrt3",      L"NotesIncldCounters",
-        L"ContactsLayout", L"MessagesSort", L"SEventDays",    L"FontGenerallfWeight",
-        L"ClrStatusBusy",  L"PimSw",        L"DfltTabTimeOut"};
-    for (size_t at = 0; at < std::size(numbers); ++at) {
-        SetUserNumber((std::wstring(kRoot) + subkeys[at]).c_str(), numbers[at], 4711);
-    }
-    SetText(HKEY_CURRENT_USER, std::wstring(kRoot) + L"\\Categories", L"AdditionalIconsFolder",
-            L"stored");
-
-    constexpr ULONG kKeys = 14;
-    for (ULONG failing = 1; failing <= kKeys; ++failing) {
-        SettingsStore store;
-        StandInResetCalls();
-        StandInFailCall(kRegCreateKeyCalls, failing, ERROR_ACCESS_DENIED);
-        LoadInto(store);
-        EXPECT_EQ(StandInCallCount(kRegCreateKeyCalls), kKeys);
-        StandInResetCalls();
-        const bool stored[] = {
-            store.IconPath.value == L"stored",  store.CoreCategories.value == L"stored",
-            store.NoteZoom.value == 4711,       store.dDayBreaker.value == 4711,
-            store.TsksSrt3.value == 4711,       store.NotesIncldCounters.value == 4711,
-            store.ContactsLayout.value == 4711, store.MessagesSort.value == 4711,
-            store.SEventDays.value == 4711,     store.FontGeneral.weight.value == 4711,
-            store.ClrStatusBusy.value == 4711,  store.PimSw.value == 4711,
-            store.DfltTabTimeOut.value == 4711, store.AdditionalIconsFolder.value == L"stored",
-        };
-        for (ULONG key = 1; key <= kKeys; ++key) {
-            EXPECT_EQ(stored[key - 1], key != failing) << "key " << key << ", failing " << failing;
-        }
-        EXPECT_FALSE(store.FontGeneral.weight.name.IsEmpty());
-    }
-}
-
 TEST_F(SettingsStoreTest, TheTodayItemKeyIsNotCreated) {
     LoadAndSave();
     EXPECT_FALSE(HasKey(HKEY_LOCAL_MACHINE, kTodayItem));

@@ -10,7 +10,7 @@ WideString::WideString(WideString&& other) noexcept {
 }
 
 WideString& WideString::operator=(const WideString& other) {
-    Take(other.buffer_, other.length_);
+    if (this != &other) Take(other.buffer_, other.length_);
     return *this;
 }
 

@@ -1,0 +1,102 @@
+// Leads through every page, tab and dialog of the installed program. At each sight it prints a name
+// and waits for a line on its input, so that whoever started it can take a picture.
+#include "tests/device/program_driver.h"
+
+#include <commctrl.h>
+
+#include <cstdio>
+
+#include "resource_ids.h"
+#include "shell/page_factory.h"
+
+namespace {
+struct PageSight {
+    const char* name;
+    const wchar_t* className;
+};
+
+constexpr PageSight kPages[kPageCount] = {
+    {"general", L"GeneralSettingsWin"},
+    {"calendar", L"CalendarSettingsWin"},
+    {"tasks", L"TasksSettingsWin"},
+    {"notes", L"NotesSettingsWin"},
+    {"contacts", L"ContactSettingsWin"},
+    {"messages", L"MessagesSettingsWin"},
+    {"special-events", L"SEventsSettingsWin"},
+    {"fonts", L"FontSettingsWin"},
+    {"colours", L"ColorSettingsWin"},
+    {"pim", L"PIMSettingsWin"},
+    {"tabs", L"TabsSettingsWin"},
+    {"category", L"CategorySettingsWin"},
+};
+constexpr int kGeneral = 0;
+constexpr UINT kSkinBrowse = 1214;
+
+void Show(const char* name) {
+    constexpr DWORD kPaintTime = 150; // Milliseconds; paints come when all else is done.
+    Sleep(kPaintTime);
+    std::printf("%s\n", name);
+    std::fflush(stdout);
+    char answer[16];
+    if (!std::fgets(answer, sizeof(answer), stdin)) ExitProcess(1);
+}
+
+void Close(HWND window, int answer) {
+    PostMessage(window, WM_COMMAND, static_cast<WPARAM>(answer), 0);
+    WaitUntil([window] { return !IsWindow(window); });
+}
+
+void ShowDialogs(const Program& program, HWND page) {
+    TapOn(GetDlgItem(page, kSkinBrowse));
+    if (HWND dialog = program.WaitForWindow(L"SelectFolderWin")) {
+        Show("dialog-folder");
+        Close(dialog, IDCANCEL);
+    }
+}
+
+bool ShowPage(const Program& program, HWND main, int row) {
+    HWND page = program.OpenPage(row, kPages[row].className);
+    if (!page) return false;
+    HWND strip = FindWindowEx(page, nullptr, WC_TABCONTROL, nullptr);
+    const auto tabs = static_cast<int>(SendMessage(strip, TCM_GETITEMCOUNT, 0, 0));
+    for (int tab = 0; tab < tabs; ++tab) {
+        SendMessage(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+        char name[64];
+        std::snprintf(name, sizeof(name), "page-%02d-%s-%d", row, kPages[row].name, tab + 1);
+        Show(name);
+        if (row == kGeneral && tab == 1) ShowDialogs(program, page);
+    }
+    Close(main, IDOK);
+    return WaitUntil([page] { return !IsWindow(page); });
+}
+
+void ShowMenu(WORD softKey, const char* name) {
+    Press(softKey);
+    Show(name);
+    Press(VK_ESCAPE);
+    Press(VK_ESCAPE);
+}
+} // namespace
+
+int main() {
+    Program program;
+    HWND main = program.WaitForPageList();
+    if (!main) return 1;
+    Show("list");
+    ShowMenu(VK_F1, "menu-left");
+    ShowMenu(VK_F2, "menu-right");
+    for (int row = 0; row < kPageCount; ++row) {
+        if (!ShowPage(program, main, row)) return 1;
+    }
+    PostMessage(main, WM_COMMAND, IDC_ABOUT, 0);
+    if (HWND about = program.WaitForWindow(L"AboutWin")) {
+        Show("dialog-about");
+        Close(about, IDOK);
+    }
+    PostMessage(main, WM_COMMAND, IDCANCEL, 0);
+    HWND question = program.WaitForMessageBox();
+    if (!question) return 1;
+    Show("question-cancel");
+    PostMessage(question, WM_COMMAND, IDYES, 0);
+    return static_cast<int>(program.WaitForExit());
+}
