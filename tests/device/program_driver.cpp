@@ -7,6 +7,8 @@
 namespace {
 constexpr int kWaitMilliseconds = 10'000;
 constexpr int kPollMilliseconds = 20;
+// Nobody taps or presses two things at once; menus and activation need their moment.
+constexpr int kHandMilliseconds = 100;
 
 int Dpi() {
     HDC screen = GetDC(nullptr);
@@ -46,12 +48,15 @@ bool WaitUntil(const std::function<bool()>& condition) {
 }
 
 void TapAt(int x, int y) {
-    SetCursorPos(x, y);
-    INPUT tap[2]{};
-    tap[0].type = tap[1].type = INPUT_MOUSE;
-    tap[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    tap[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(2, tap, sizeof(INPUT));
+    // Straight to the window that stands there. An injected click would land where the screen's own
+    // pointer is whenever a window that comes or goes makes the screen report it.
+    POINT point{x, y};
+    HWND window = WindowFromPoint(point);
+    ScreenToClient(window, &point);
+    const LPARAM position = MAKELPARAM(point.x, point.y);
+    Sleep(kHandMilliseconds);
+    PostMessage(window, WM_LBUTTONDOWN, MK_LBUTTON, position);
+    PostMessage(window, WM_LBUTTONUP, 0, position);
 }
 
 void TapOn(HWND window) {
@@ -70,6 +75,7 @@ void Press(WORD key) {
     press[0].type = press[1].type = INPUT_KEYBOARD;
     press[0].ki.wVk = press[1].ki.wVk = key;
     press[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    Sleep(kHandMilliseconds);
     SendInput(2, press, sizeof(INPUT));
 }
 
@@ -116,7 +122,8 @@ HWND Program::WaitForMessageBox() const {
 }
 
 HWND Program::OpenPage(int row, const wchar_t* className) const {
-    HWND list = FindWindowEx(Find(L"OV_OPTIONS"), nullptr, WC_LISTVIEW, nullptr);
+    HWND window = Find(L"OV_OPTIONS");
+    HWND list = FindWindowEx(window, nullptr, WC_LISTVIEW, nullptr);
     const auto spacing = static_cast<DWORD>(SendMessage(list, LVM_GETITEMSPACING, FALSE, 0));
     const int width = LOWORD(spacing);
     const int height = HIWORD(spacing);
@@ -126,7 +133,10 @@ HWND Program::OpenPage(int row, const wchar_t* className) const {
     const int columns = (place.right - place.left) / width;
     TapAt(place.left + row % columns * width + width / 2,
           place.top + row / columns * height + height / 3);
-    return WaitForWindow(className);
+    HWND page = WaitForWindow(className);
+    // A window shows before its controls are made; the program answers when it is done.
+    SendMessage(window, WM_NULL, 0, 0);
+    return page;
 }
 
 bool Program::IsRunning() const {

@@ -66,7 +66,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         Show(name);
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
     }
-    Close(main, IDOK);
+    PostMessage(main, WM_COMMAND, IDOK, 0);
     return WaitUntil([page] { return !IsWindow(page); });
 }
 
