@@ -222,7 +222,7 @@ void MenuBar::Activate(int index, bool byKey) {
 
 void MenuBar::OpenMenu(int index, bool byKey) {
     HMENU popup = items_[index].popup;
-    if (!IsMenu(popup)) return; // Deleted by the program.
+    if (openMenu_ || !IsMenu(popup)) return; // The program may have deleted it.
     SetPressed(index);
     UpdateWindow(window_);
     if (byKey) PostMessageW(parent_, WM_KEYDOWN, VK_DOWN, 1); // Selects the first entry.

@@ -55,7 +55,7 @@ void CreateTabStrip(SettingsPage& page, HWND window) {
     SendMessage(page.tabStrip, kTabStripVersionMessage, kTabStripVersion, 0);
     SendMessage(page.tabStrip, WM_SETFONT, reinterpret_cast<WPARAM>(page.normalFont), FALSE);
     // Narrow tabs: as many captions as a page has must fit a screen of 240 units without arrows.
-    SendMessage(page.tabStrip, TCM_SETPADDING, 0, MAKELPARAM(Scale(2), ScaleY(2)));
+    SendMessage(page.tabStrip, TCM_SETPADDING, 0, MAKELPARAM(Scale(3), ScaleY(3)));
     SendMessage(page.tabStrip, TCM_SETMINTABWIDTH, 0, 0);
     for (int i = 0; i < page.GetTabCount(); ++i) {
         InsertTab(page.tabStrip, i, LanguageText(page.GetTabTitleId(i)));

@@ -97,9 +97,13 @@ void PageList::Destroy() {
 
 int PageList::ActivatedRow(const NMHDR& header) const {
     if (header.hwndFrom != window_ || header.code != LVN_ITEMACTIVATE) return -1;
-    // Enter sends a bare header without a row: the list itself knows which one it is.
-    return static_cast<int>(
+    // Enter sends a bare header without a row: the list itself knows which one it is. Before the
+    // first choice no row is selected, and the one with the focus is meant.
+    const auto selected = static_cast<int>(
         SendMessage(window_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    if (selected >= 0) return selected;
+    return static_cast<int>(
+        SendMessage(window_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
 }
 
 WideString PageList::Caption(int row) const {

@@ -20,7 +20,7 @@ constexpr UINT kUpButton = 101;
 constexpr UINT kFolderList = 102;
 constexpr UINT kEmptyText = 103;
 constexpr int kMargin = 6;
-constexpr int kButtonWidth = 60;
+constexpr int kButtonWidth = 84;
 constexpr int kRowHeight = 20;
 constexpr int kListTop = 2 * kMargin + kRowHeight;
 
@@ -144,7 +144,10 @@ void FolderDialog::Fill(HWND window) const {
     SendMessage(list, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&first));
     SendMessage(list, WM_SETREDRAW, TRUE, 0);
     ShowWindow(GetDlgItem(window, kEmptyText), names.empty() ? SW_SHOW : SW_HIDE);
-    EnableWindow(GetDlgItem(window, kUpButton), !folder_.IsEmpty());
+    HWND up = GetDlgItem(window, kUpButton);
+    EnableWindow(up, !folder_.IsEmpty());
+    // An empty list cannot show that it has the focus.
+    SetFocus(names.empty() && !folder_.IsEmpty() ? up : list);
 }
 
 void FolderDialog::Enter(HWND window) {
@@ -166,7 +169,6 @@ void FolderDialog::GoUp(HWND window) {
     while (end > 0 && folder_.CStr()[end - 1] != L'\\')
         --end;
     folder_.Assign(folder_.CStr(), end > 0 ? end - 1 : 0);
-    SetFocus(GetDlgItem(window, kFolderList)); // The button is disabled at the root.
     Fill(window);
 }
 

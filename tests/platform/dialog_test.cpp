@@ -15,6 +15,7 @@ struct DialogRun {
     BOOL initialised = FALSE;
     RECT place = {};
     RECT client = {};
+    BOOL panelRaised = FALSE;
     HWND bar = nullptr;
 };
 
@@ -33,6 +34,7 @@ INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
     case kOpened:
         GetClientRect(dialog, &run->client);
         run->place = PlaceOf(dialog);
+        run->panelRaised = FindWindowW(L"StandInInputPanel", nullptr) != nullptr;
         run->bar = SHFindMenuBar(dialog);
         run->act(dialog);
         return TRUE;
@@ -62,8 +64,10 @@ TEST(DialogTest, FullScreenDialogEndsByDoneOrX) {
 
     DialogRun done = {SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN,
                       TapNavigationButton};
+    SipShowIM(SIPF_ON);
     EXPECT_EQ(RunDialog(program.window, done), IDOK);
     EXPECT_TRUE(done.initialised);
+    EXPECT_FALSE(done.panelRaised);
     EXPECT_EQ(done.place, (RECT{0, area.top, area.right, aboveBar}));
     EXPECT_EQ(done.client, (RECT{0, 0, area.right, aboveBar - area.top}));
     EXPECT_EQ(done.bar, nullptr);
@@ -146,8 +150,8 @@ TEST(ImageFileTest, LoadsPicturesAndRefusesTheRest) {
         const TempFile file(L"picture");
         file.Write(bytes);
         const HBITMAP bitmap = SHLoadImageFile(file.Path());
-        ASSERT_NE(bitmap, nullptr) << bytes.substr(0, 4);
-        EXPECT_EQ(FirstPixel(bitmap), RGB(0xFF, 0, 0)) << bytes.substr(0, 4);
+        ASSERT_NE(bitmap, nullptr) << bytes.size();
+        EXPECT_EQ(FirstPixel(bitmap), RGB(0xFF, 0, 0)) << bytes.size();
         DeleteObject(bitmap);
     }
     std::string tall(kBmp);

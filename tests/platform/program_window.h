@@ -105,6 +105,7 @@ class ProgramWindow {
 
     HWND window = nullptr;
     std::vector<int> commands; // The ids of the WM_COMMANDs that came.
+    int activations = 0;       // WM_ACTIVATEs, of gaining and of losing it.
     int moves = 0;             // WM_MOVEs.
     RECT clientAtCreation = {};
     SHACTIVATEINFO activation = {sizeof(SHACTIVATEINFO), nullptr, 0, 0, 0, 0};
@@ -135,6 +136,7 @@ class ProgramWindow {
             if (HIWORD(wParam) == 0) commands.push_back(LOWORD(wParam));
             break;
         case WM_ACTIVATE:
+            ++activations;
             SHHandleWMActivate(handle, wParam, lParam, &activation, 0);
             break;
         case WM_SETTINGCHANGE:

@@ -30,6 +30,15 @@ std::vector<COLORREF> ShownTitle() {
     return picture;
 }
 
+// A click of the real pointer. Each event carries its place: what the screen says of its pointer
+// meanwhile cannot come between.
+void ClickScreenAt(POINT point) {
+    const auto x = static_cast<DWORD>(MulDiv(point.x, 65536, Screen().right) + 1);
+    const auto y = static_cast<DWORD>(MulDiv(point.y, 65536, Screen().bottom) + 1);
+    for (const DWORD event : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP})
+        mouse_event(MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | event, x, y, 0, 0);
+}
+
 TEST(WindowTest, DefaultPlaceIsTheWorkArea) {
     RECT area = {};
     ASSERT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
@@ -84,7 +93,9 @@ TEST(WindowTest, NavigationBarShowsTheActiveWindowsTitle) {
         {.title = L"PopupClass", .style = WS_POPUP | WS_VISIBLE, .owner = first.window});
     EXPECT_EQ(GetActiveWindow(), popup.window);
     EXPECT_EQ(ShownTitle(), firstTitle);
+    UpdateWindow(NavigationBarWindow());
     SetWindowTextW(first.window, L"Renamed");
+    EXPECT_TRUE(GetUpdateRect(NavigationBarWindow(), nullptr, FALSE));
     EXPECT_NE(ShownTitle(), firstTitle);
 }
 
@@ -99,6 +110,16 @@ TEST(WindowTest, OkIsSentOnceToTheWindowShown) {
     EXPECT_EQ(popup.commands, Commands{IDOK});
     EXPECT_EQ(program.commands, Commands{IDOK});
     EXPECT_EQ(GetActiveWindow(), popup.window);
+}
+
+TEST(WindowTest, PointerOnTheNavigationBarLeavesTheWindowActive) {
+    ProgramWindow program;
+    const int before = program.activations;
+    ClickScreenAt(NavigationButton());
+    EXPECT_TRUE(PumpUntil([&] { return !program.commands.empty(); }));
+    EXPECT_EQ(program.commands, Commands{IDOK});
+    EXPECT_EQ(program.activations, before);
+    EXPECT_EQ(GetFocus(), program.window);
 }
 
 TEST(WindowTest, OkIsNotSentWhenTheTapMissesOrTheWindowIsDisabled) {
@@ -170,14 +191,6 @@ TEST(WindowTest, ForegroundRequestWithTheLowBitReachesThePopup) {
     EXPECT_TRUE(SetForegroundWindow(other.window));
     EXPECT_EQ(GetForegroundWindow(), other.window);
     EXPECT_FALSE(SetForegroundWindow(reinterpret_cast<HWND>(UINT_PTR{1})));
-}
-
-TEST(WindowTest, ProgramThatScalesItselfIsToldTheTrueDensity) {
-    using Query = BOOL(WINAPI*)();
-    const auto isAware = reinterpret_cast<Query>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32"), "IsProcessDPIAware")));
-    ASSERT_NE(isAware, nullptr);
-    EXPECT_TRUE(isAware());
 }
 
 } // namespace

@@ -23,7 +23,8 @@ int timesTold;
 bool valueWasWritten;
 
 LRESULT CALLBACK ListenerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == application.settingsChangedMessage) {
+    static const UINT kSettingsChanged = RegisterWindowMessage(L"TeskelOrvaneSettingsChanged");
+    if (message == kSettingsChanged) {
         ++timesTold;
         valueWasWritten = HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode");
         EXPECT_EQ(wParam, 0u);

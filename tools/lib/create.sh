@@ -183,8 +183,7 @@ screen=$screen
 dpi=$dpi
 locale=$locale
 os=$os
-empty=$empty
-wine="$("$wine_loader" --version)"
+wine=$("$wine_loader" --version)
 END
     trap - EXIT
 }

@@ -7,25 +7,29 @@ load_device() {
     [ -f "$1/device.conf" ] || die "$1 is no device; make one: tools/device create $1"
     dir=$(cd "$1" && pwd)
     run="$dir/run"
-    . "$dir/device.conf"
-    [ "$wine" = "$("$wine_loader" --version)" ] ||
-        die "$1 was made with another Wine ($wine); remove it and create it anew"
+    local key value
+    while IFS='=' read -r key value; do
+        printf -v "device_$key" %s "$value"
+    done <"$dir/device.conf"
     environment=(
         -u WINEARCH -u WINELOADER -u WINESERVER -u WINEDLLPATH -u WINEDLLOVERRIDES -u LANGUAGE
         WINEPREFIX="$dir/prefix" WINEDEBUG="${WINEDEBUG:--all}"
-        WINEPATH='C:\Program Files\Teskel\Orvane' OVDEVICE_OS="$os"
-        LC_ALL="$locale.UTF-8" LOCPATH="$run/locale" FONTCONFIG_FILE="$run/fonts.conf"
+        WINEPATH='C:\Program Files\Teskel\Orvane' OVDEVICE_OS="$device_os"
+        LC_ALL="$device_locale.UTF-8" LOCPATH="$run/locale" FONTCONFIG_FILE="$run/fonts.conf"
     )
 }
 
 is_up() {
-    process_lives "$run/desktop.pid" && { [ ! -f "$run/xvfb.pid" ] || process_lives "$run/xvfb.pid"; }
+    process_lives "$run/desktop.pid" &&
+        { [ ! -f "$run/xvfb.pid" ] || process_lives "$run/xvfb.pid"; }
 }
 
 # Starts what programs need, unless it runs. Nothing started here keeps the caller's input, output
 # or lock: they outlive the caller.
 bring_up() {
     if ! is_up; then
+        [ "$device_wine" = "$("$wine_loader" --version)" ] ||
+            die "$dir was made with another Wine ($device_wine); remove it and create it anew"
         exec 9>"$run/lock"
         flock -w 120 9 || die "another start of $dir does not come to an end"
         if ! is_up; then
@@ -45,7 +49,7 @@ start_screen() {
         return
     fi
     rm -f "$run/display.number"
-    setsid Xvfb -displayfd 7 -screen 0 "${screen}x24" -nolisten tcp -noreset -s 0 \
+    setsid Xvfb -displayfd 7 -screen 0 "${device_screen}x24" -nolisten tcp -noreset -s 0 \
         7>"$run/display.number" 9>&- </dev/null >"$run/xvfb.log" 2>&1 &
     remember_process "$run/xvfb.pid" $!
     wait_until 30 test -s "$run/display.number" || die "no screen; see $run/xvfb.log"
@@ -53,19 +57,18 @@ start_screen() {
 }
 
 # Without a desktop of its own, the first program to open a window would start one and lend it its
-# output. The server stays until it is told to end: that is what makes starting programs quick. The
-# desktop itself would go when no program is left; start.exe, waiting for it, is one that stays.
+# output. Server and desktop would go when no program is left; start.exe, which waits for the
+# desktop, is one that stays: that is what makes starting programs quick.
 start_desktop() {
-    env "${environment[@]}" "$wine_server" -p 9>&- </dev/null >"$run/desktop.log" 2>&1
     DISPLAY=$(<"$run/display") setsid env "${environment[@]}" "$wine_loader" \
         'C:\windows\system32\start.exe' /exec 'C:\windows\system32\explorer.exe' /desktop \
-        9>&- </dev/null >>"$run/desktop.log" 2>&1 &
+        9>&- </dev/null >"$run/desktop.log" 2>&1 &
     remember_process "$run/desktop.pid" $!
     wait_until 60 find_desktop || die "no desktop; see $run/desktop.log"
 }
 
-# device_windows XDOTOOL-SEARCH...: the visible X windows of this device that match. A host's display
-# may show other devices too: a window is this one's when its process works on this prefix.
+# device_windows XDOTOOL-SEARCH...: the visible X windows of this device that match. A host's
+# display may show other devices too: a window is this one's when its process works on this prefix.
 device_windows() {
     local window pid
     for window in $(DISPLAY=$(<"$run/display") xdotool search --onlyvisible "$@" 2>/dev/null); do
@@ -140,8 +143,8 @@ exec_program() {
     return $status
 }
 
-# start DIR [ARG...]: returns when a window of the program is up and drawn. While a copy runs, the second one
-# brings it to the front and ends.
+# start DIR [ARG...]: returns when a window of the program is up and drawn. While a copy runs, the
+# second one brings it to the front and ends.
 start_program() {
     local status=0 first=yes pid limiter=(setsid)
     load_device "$@"

@@ -12,7 +12,8 @@ struct Application {
     HMODULE displayLibrary = nullptr;
     HFONT normalFont = nullptr;
     HFONT boldFont = nullptr;
-    UINT settingsChangedMessage = 0;
+    // Registered before the entry point runs.
+    UINT settingsChangedMessage = RegisterWindowMessage(L"TeskelOrvaneSettingsChanged");
 };
 
 extern Application application;
