@@ -71,7 +71,8 @@ void FormPage::ShowTab(HWND window, int showCommand) {
 void FormPage::SaveValues(HWND window, WPARAM) {
     ShowTab(window, SW_HIDE);
     for (const FormRow& row : tables_.rows) {
-        if (!row.exists || row.exists()) SaveRow(window, row);
+        // What the platform offers may have changed since: only what the page shows is saved.
+        if (GetDlgItem(window, static_cast<int>(row.id))) SaveRow(window, row);
     }
 }
 
@@ -97,21 +98,31 @@ void FormPage::SaveRow(HWND window, const FormRow& row) {
 LRESULT FormPage::OnCommand(HWND window, UINT, WPARAM wParam, LPARAM lParam) {
     const UINT notification = HIWORD(wParam);
     // Only what a control tells counts; an accelerator or a menu has no window.
-    if (!lParam) return 0;
-    if (notification == BN_CLICKED) OnButton(window, LOWORD(wParam));
-    if (notification == BN_CLICKED || notification == CBN_SELCHANGE) ApplyRules(window);
+    if (!lParam || (notification != BN_CLICKED && notification != CBN_SELCHANGE)) return 0;
+    if (const FormRow* row = PathRowOfButton(LOWORD(wParam)))
+        OnPathButton(window, *row, LOWORD(wParam));
+    else
+        ApplyRules(window);
     return 0;
 }
 
-void FormPage::OnButton(HWND window, UINT id) {
+const FormRow* FormPage::PathRowOfButton(UINT id) const {
     for (const FormRow& row : tables_.rows) {
-        if (row.kind != RowKind::Path) continue;
-        const int edit = static_cast<int>(row.id + kPathEdit);
-        if (id == row.id + kPathClear) SetDlgItemText(window, edit, L"");
-        if (id != row.id + kPathBrowse) continue;
-        WideString path = ControlText(GetDlgItem(window, edit), kPathLimit);
-        if (BrowsePath(window, row, path)) SetDlgItemText(window, edit, path.CStr());
+        if (row.kind == RowKind::Path && (id == row.id + kPathClear || id == row.id + kPathBrowse))
+            return &row;
     }
+    return nullptr;
+}
+
+void FormPage::OnPathButton(HWND window, const FormRow& row, UINT id) {
+    const int edit = static_cast<int>(row.id + kPathEdit);
+    WideString path;
+    if (id == row.id + kPathBrowse) {
+        path = ControlText(GetDlgItem(window, edit), kPathLimit);
+        // The page may be closed and gone when the user is done: nothing below touches it.
+        if (!BrowsePath(window, row, path)) return;
+    }
+    SetDlgItemText(window, edit, path.CStr());
 }
 
 void FormPage::ApplyRules(HWND window) const {

@@ -72,7 +72,8 @@ class FormPage : public SettingsPage {
     void CreateRow(HWND window, const FormRow& row, RowLayout& layout);
     void SaveRow(HWND window, const FormRow& row);
     void ApplyRules(HWND window) const;
-    void OnButton(HWND window, UINT id);
+    [[nodiscard]] const FormRow* PathRowOfButton(UINT id) const;
+    void OnPathButton(HWND window, const FormRow& row, UINT id);
 
     FormTables tables_;
 };

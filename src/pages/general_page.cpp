@@ -364,8 +364,8 @@ void GeneralPage::FillLanguages(HWND combo) {
                 current = static_cast<uint32_t>(entry);
             languagePaths_[slot] = path;
         }
-        // A library without a name takes a slot as well, and shifts the paths against the entries:
-        // the dashboard pairs them the same way.
+        // A library without a name takes a slot as well, and shifts the paths against the entries;
+        // kept on purpose.
         ++slot;
     }
     SelectIndex(combo, current);

@@ -11,8 +11,7 @@
 
 namespace {
 constexpr int kTabStripHeight = 22;
-// Sent to every new tab strip as the device's common controls expect it: CCM_SETVERSION, with the
-// version whose strips stand at the bottom of a page.
+// Sent to every new tab strip (CCM_SETVERSION); the meaning of the number is the platform's.
 constexpr UINT kTabStripVersionMessage = 0x2007;
 constexpr WPARAM kTabStripVersion = 524;
 constexpr int kSampleWidth = 44;
@@ -34,8 +33,8 @@ struct StripPlace {
 StripPlace PlaceOfTabStrip(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
-    return {Scale(-2), client.bottom - ScaleY(kTabStripHeight) + 1, client.right + Scale(2),
-            ScaleY(kTabStripHeight) - 1};
+    return {Scale(-2), client.bottom - Scale(kTabStripHeight) + 1, client.right + Scale(2),
+            Scale(kTabStripHeight) - 1};
 }
 
 void InsertTab(HWND strip, int index, const WideString& title) {
@@ -121,11 +120,15 @@ LRESULT OnNotification(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lP
     return 0;
 }
 
-LRESULT OnPageCommand(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lParam) {
-    if (LOWORD(wParam) != IDOK) return page.OnCommand(window, WM_COMMAND, wParam, lParam);
-    // The main window closes and deletes the page inside this call: nothing may touch it after.
+// The main window closes and deletes the page inside this call: nothing may touch it after.
+LRESULT CloseByMainWindow(HWND window) {
     SendMessage(GetParent(window), kMessageClosePage, 0, 0);
     return 0;
+}
+
+LRESULT OnPageCommand(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) != IDOK) return page.OnCommand(window, WM_COMMAND, wParam, lParam);
+    return CloseByMainWindow(window);
 }
 
 LRESULT Dispatch(SettingsPage& page, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -137,6 +140,8 @@ LRESULT Dispatch(SettingsPage& page, HWND window, UINT message, WPARAM wParam, L
     case WM_NCDESTROY:
         page.hwnd = nullptr;
         break;
+    case WM_CLOSE:
+        return CloseByMainWindow(window);
     case WM_MOVE:
     case WM_SIZE:
         return OnPlaced(page, window);
@@ -235,9 +240,9 @@ int SettingsPage::CurrentTab() const {
 }
 
 void SettingsPage::DrawColourSample(HDC dc, COLORREF colour, int left, int top) const {
-    RECT box{left, top, left + Scale(kSampleWidth), top + ScaleY(kSampleHeight)};
+    RECT box{left, top, left + Scale(kSampleWidth), top + Scale(kSampleHeight)};
     FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    InflateRect(&box, -Scale(1), -ScaleY(1));
+    InflateRect(&box, -Scale(1), -Scale(1));
     if (colour != kNoColour) {
         const UniqueBrush brush(CreateSolidBrush(colour));
         FillRect(dc, &box, brush.Get());
@@ -245,9 +250,10 @@ void SettingsPage::DrawColourSample(HDC dc, COLORREF colour, int left, int top) 
     }
     FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     const SelectScope font(dc, normalFont);
-    SetBkMode(dc, TRANSPARENT);
+    const int previousMode = SetBkMode(dc, TRANSPARENT);
     DrawText(dc, LanguageText(IDS_COLOUR_NONE).CStr(), -1, &box,
              DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    SetBkMode(dc, previousMode);
 }
 
 void CreatePageWindow(SettingsPage& page, HWND mainWindow, const wchar_t* className,

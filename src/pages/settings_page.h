@@ -9,7 +9,7 @@
 
 #include "shell/services/wide_string.h"
 
-// A page whose tab strip notifies closes itself by this message to the main window.
+// Sent by a page to the main window, which closes it.
 inline constexpr UINT kMessageClosePage = WM_USER + 1;
 // From a button strip to its page: a button was clicked; a drop-down entry was chosen.
 inline constexpr UINT kMessageToolbarClick = 1788;

@@ -88,7 +88,7 @@ struct BitsSetting : Setting {
     uint32_t byteCount = 0;
 
     // Only binary data of exactly the right size replaces the default. Without a key the flags
-    // keep their default, whatever the registry holds: the dashboard's own loader does the same.
+    // keep their default, whatever the registry holds; kept on purpose.
     void Load(HKEY key, uint32_t bitCount, bool allSet, const wchar_t* valueName,
               SettingGroup settingGroup);
     void TakeDefault(uint32_t bitCount, bool allSet, const wchar_t* valueName,

@@ -156,8 +156,8 @@ void SettingsStore::LoadOwnTabs(HMODULE languageLibrary) {
 
 void SettingsStore::RepairLoadedCalendar() {
     if (dNumOfDays.value < 1 || dNumOfDays.value >= 121) dNumOfDays.Set(7);
-    // The dashboard reckons in the same unsigned numbers: a start after 18 gives it a length just
-    // below 2^32, with which its sum comes to 24 again.
+    // In unsigned numbers, on purpose: a start after 18 gives a length just below 2^32, with which
+    // the sum comes to 24 again.
     if (TimelinesStart.value + TimelinesLength.value + 6 > 24) {
         TimelinesLength.Set(18 - TimelinesStart.value);
     }
@@ -219,7 +219,7 @@ void SettingsStore::RepairBeforeSave() {
 
 void SettingsStore::SaveTabs() {
     const UniqueKey key(OpenKeyOfGroup(SettingGroup::Tabs));
-    TabList::DeleteHosted(key.Get());
+    tabs.DeleteHosted(key.Get());
     kTabModeTable.Save(*this, key.Get());
     CopyOwnTabsToSettings();
     kOwnTabTable.Save(*this, key.Get());
@@ -227,8 +227,8 @@ void SettingsStore::SaveTabs() {
     tabs.SaveHosted(key.Get());
 }
 
-// Only a tab that was moved, or whose state changed, is set: one left alone is not written, like
-// any other setting.
+// Only a tab whose number or state changed, by the user or by the numbering after the load, is set:
+// one left alone is not written, like any other setting.
 void SettingsStore::CopyOwnTabsToSettings() {
     const auto copy = [](uint32_t from, DwordSetting& to) {
         if (to.value != from) to.Set(from);

@@ -3,6 +3,5 @@
 #include <windows.h>
 
 // The device's colour scheme. An entry's own value, named by the entry's number in decimal, wins
-// over the scheme's array "SHColor". The array's last entry is never used: the dashboard does not
-// use it either, and both must show the same colour.
+// over the scheme's array "SHColor". The array's last entry is never used; kept on purpose.
 [[nodiscard]] COLORREF SystemColour(int index, COLORREF fallback);

@@ -83,6 +83,7 @@ const TabDefinition* TabList::FindType(TabType type) const {
 
 // Sorted once at the end, which is the same as inserting one by one and needs no shifting.
 void TabList::LoadHosted(HKEY tabKey) {
+    hostedTabsAreKnown_ = tabKey != nullptr;
     WideString name;
     for (DWORD index = 0; tabKey != nullptr && SubkeyName(tabKey, index, name); ++index) {
         if (name == kForeignSubkey) continue;
@@ -92,12 +93,12 @@ void TabList::LoadHosted(HKEY tabKey) {
 }
 
 void TabList::SaveHosted(HKEY tabKey) const {
-    if (tabKey == nullptr) return;
+    if (tabKey == nullptr || !hostedTabsAreKnown_) return;
     for (const auto& entry : entries_) {
         if (entry->type == TabType::Hosted) WriteHosted(tabKey, *entry);
     }
 }
 
-void TabList::DeleteHosted(HKEY tabKey) {
-    if (tabKey != nullptr) DeleteSubkeys(tabKey, kForeignSubkey);
+void TabList::DeleteHosted(HKEY tabKey) const {
+    if (tabKey != nullptr && hostedTabsAreKnown_) DeleteSubkeys(tabKey, kForeignSubkey);
 }

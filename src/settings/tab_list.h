@@ -50,14 +50,16 @@ class TabList {
     [[nodiscard]] const TabDefinition* FindNumber(uint32_t number) const;
     [[nodiscard]] const TabDefinition* FindType(TabType type) const;
 
-    // The plug-in tabs: one subkey each of the tab key. A null key holds none and takes none.
+    // The plug-in tabs: one subkey each of the tab key. A null key holds none and takes none; tabs
+    // whose key could not be opened at the load are left alone by the other two.
     void LoadHosted(HKEY tabKey);
     // Writes every value of every plug-in tab, in the list's order, changed or not.
     void SaveHosted(HKEY tabKey) const;
     // The dashboard keeps something of its own in a subkey "Contacts"; all others are plug-in tabs
     // and are deleted, so that a tab that was removed does not come back.
-    static void DeleteHosted(HKEY tabKey);
+    void DeleteHosted(HKEY tabKey) const;
 
   private:
     Entries entries_;
+    bool hostedTabsAreKnown_ = false;
 };

@@ -34,6 +34,7 @@ int RunMessageLoop(HWND window) {
 }
 } // namespace
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the header's are Hungarian.
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, LPWSTR commandLine, int showCommand) {
     const bool startsWithAbout = wcscmp(commandLine, L"About") == 0;
     application.instance = instance;

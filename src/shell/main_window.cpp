@@ -9,12 +9,14 @@
 #include <memory>
 
 #include "resource_ids.h"
+#include "settings/font_catalogue.h"
 #include "settings/settings_store.h"
 #include "shell/about_window.h"
 #include "shell/main_menu_bar.h"
 #include "shell/page_factory.h"
 #include "shell/page_list.h"
 #include "shell/services/application.h"
+#include "shell/services/font_holder.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
@@ -74,6 +76,7 @@ LRESULT OnCreate(HWND window) {
     mainWindow.activateInfo.cbSize = sizeof(mainWindow.activateInfo);
     FixScaling();
     settingsStore.Load(application.languageLibrary);
+    SetFontCatalogue(FontCatalogueEntry);
     LoadDisplayLibrary();
     mainWindow.menuBar.Create(window);
     application.normalFont = CreateUiFont(FW_DONTCARE);

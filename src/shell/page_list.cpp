@@ -113,5 +113,5 @@ WideString PageList::Caption(int row) const {
     item.cchTextMax = kCaptionLimit;
     SendMessage(window_, LVM_GETITEMTEXT, static_cast<WPARAM>(row),
                 reinterpret_cast<LPARAM>(&item));
-    return WideString(text);
+    return {text};
 }

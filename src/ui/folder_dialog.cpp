@@ -100,7 +100,6 @@ void FolderDialog::CreateControls(HWND window) {
                   font);
     CreateControl(window, L"BUTTON", LanguageText(IDS_CANCEL).CStr(), WS_TABSTOP, IDCANCEL, {},
                   font);
-    Layout(window);
     Fill(window);
 }
 

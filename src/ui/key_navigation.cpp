@@ -74,6 +74,10 @@ void SwitchTab(HWND strip, bool forward) {
     const int next = (current + (forward ? 1 : count - 1)) % count;
     // TCM_SETCURFOCUS notifies the page as a tap does; TCM_SETCURSEL would not.
     SendMessage(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(next), 0);
+    // From another control: that one is hidden now, and its tab's first one follows it.
+    HWND focus = GetFocus();
+    if (focus != strip && !(focus && IsWindowVisible(focus) && ControlOf(GetParent(strip), focus)))
+        FocusFirstControl(GetParent(strip));
 }
 
 HWND FindTabStrip(HWND root) {
@@ -164,10 +168,18 @@ bool OnTab(HWND root, HWND control) {
         MoveFocus(root, control, forward);
     return true;
 }
+// The window itself has the focus, as after the focused control was hidden: any key that moves
+// begins at the first control.
+bool OnWindowKey(HWND root, WPARAM key) {
+    const bool moves = key == VK_TAB || key == VK_RETURN || (key >= VK_LEFT && key <= VK_DOWN);
+    if (moves) FocusFirstControl(root);
+    return moves;
+}
 } // namespace
 
 bool TranslateNavigationKey(HWND root, const MSG& message) {
     if (message.message != WM_KEYDOWN || !root) return false;
+    if (message.hwnd == root) return OnWindowKey(root, message.wParam);
     HWND control = ControlOf(root, message.hwnd);
     if (!control) return false;
     if (message.wParam == VK_TAB) return OnTab(root, control);

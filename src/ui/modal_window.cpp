@@ -1,7 +1,5 @@
 #include "ui/modal_window.h"
 
-#include <aygshell.h>
-
 #include "shell/services/application.h"
 #include "shell/services/window_class.h"
 #include "ui/controls.h"
@@ -51,7 +49,7 @@ int ModalWindow::Run(HWND owner, const wchar_t* className, const wchar_t* title)
     if (!window_) return IDCANCEL;
     const TitleScope shownTitle(owner, title);
     EnableWindow(owner, FALSE);
-    FocusFirstControl(window_);
+    if (!IsChild(window_, GetFocus())) FocusFirstControl(window_);
     RunLoop();
     // The owner is enabled first, or the platform would activate some other program's window.
     EnableWindow(owner, TRUE);
@@ -81,6 +79,8 @@ void ModalWindow::RunLoop() {
 
 void ModalWindow::OnCreate(HWND window) {
     window_ = window;
+    activateInfo_ = {};
+    activateInfo_.cbSize = sizeof(activateInfo_);
     SHMENUBARINFO info{};
     info.cbSize = sizeof(info);
     info.hwndParent = window;
@@ -98,6 +98,12 @@ LRESULT ModalWindow::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
         return 0;
     case WM_SIZE:
         Layout(window);
+        return 0;
+    case WM_ACTIVATE:
+        SHHandleWMActivate(window, wParam, lParam, &activateInfo_, 0);
+        return 0;
+    case WM_SETTINGCHANGE:
+        SHHandleWMSettingChange(window, wParam, lParam, &activateInfo_);
         return 0;
     case WM_COMMAND:
         OnCommand(window, LOWORD(wParam), HIWORD(wParam));

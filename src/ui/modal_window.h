@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <aygshell.h>
+
 // A full-screen window that has the user's attention until it is done: the frame of the program's
 // own dialogs. A derived class builds the controls and answers the commands; IDOK comes from the
 // navigation bar's ok button, IDCANCEL from the Escape key.
@@ -35,5 +37,6 @@ class ModalWindow {
     void RunLoop();
 
     HWND window_ = nullptr;
+    SHACTIVATEINFO activateInfo_{};
     int answer_ = 0; // 0 while the window runs.
 };

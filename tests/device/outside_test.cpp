@@ -51,7 +51,8 @@ TEST_F(Outside, ChangesByTapsAreSavedAndTold) {
     EXPECT_TRUE(WaitUntil([&] { return IsDlgButtonChecked(page, 1206) == 0; }));
     // The second tab: sound off, goofy mode back to its default.
     HWND strip = FindWindowEx(page, nullptr, WC_TABCONTROL, nullptr);
-    for (int i = 0; i < 3; ++i) Press(VK_UP); // From the box, past two lists, to the strip.
+    for (int i = 0; i < 3; ++i)
+        Press(VK_UP); // From the box, past two lists, to the strip.
     Press(VK_RIGHT);
     ASSERT_TRUE(WaitUntil([&] { return SendMessage(strip, TCM_GETCURSEL, 0, 0) == 1; }));
     ASSERT_TRUE(WaitUntil([&] { return IsWindowVisible(GetDlgItem(page, 1217)) != FALSE; }));

@@ -72,6 +72,9 @@ class GeneralPageTest : public RegistryFixture {
     std::unique_ptr<SettingsPage> page_;
 };
 
+std::wstring dialogTitle;
+std::unique_ptr<SettingsPage>* openPage;
+
 constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
 
 TEST_F(GeneralPageTest, ChangesReachTheStoreAndDefaultsLeaveTheRegistry) {
@@ -284,14 +287,73 @@ TEST_F(GeneralPageTest, KeepsTheLanguageWhenThereIsNone) {
     EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), std::wstring(L"\\Lost.dll"));
 }
 
+// Presses a button of the folder dialog from inside its loop.
+UINT answer;
+
+void CALLBACK AnswerFolderDialog(HWND, UINT, UINT_PTR timer, DWORD) {
+    HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
+    if (!dialog) return;
+    KillTimer(nullptr, timer);
+    dialogTitle = TextOf(GetParent(GetParent(dialog)));
+    SendMessage(dialog, WM_COMMAND, answer, 0);
+}
+
 TEST_F(GeneralPageTest, ClearsAndBrowsesTheSkinPath) {
-    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", L"\\Old");
+    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", kLanguageFolder);
     HWND window = Open();
-    EXPECT_EQ(TextOf(GetDlgItem(window, 1212)), L"\\Old");
+    HWND edit = GetDlgItem(window, 1212);
+    EXPECT_EQ(TextOf(edit), kLanguageFolder);
     Tap(window, 1213);
-    EXPECT_EQ(TextOf(GetDlgItem(window, 1212)), L"");
+    EXPECT_EQ(TextOf(edit), L"");
+    for (const UINT button : {IDCANCEL, IDOK}) {
+        answer = button;
+        SetWindowText(edit, (std::wstring(kProgramFiles) + L"\\").c_str());
+        SetTimer(nullptr, 0, 20, AnswerFolderDialog);
+        Tap(window, 1214);
+        EXPECT_EQ(dialogTitle, L"Select Skin Path");
+        EXPECT_EQ(TextOf(edit), std::wstring(kProgramFiles) + (button == IDOK ? L"" : L"\\"));
+    }
+    Tap(window, 1213);
     Close();
-    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"SkinPath") &&
-                 settingsStore.SkinPath.value.Length());
+    settingsStore.Save();
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"SkinPath")) << "empty is the default";
+}
+
+TEST_F(GeneralPageTest, SavesOnlyWhatThePageShows) {
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"UseThinLines", 1);
+    HWND window = Open();
+    // As on a screen that was narrow when the page was opened and is wide now.
+    if (HWND box = GetDlgItem(window, 1237)) DestroyWindow(box);
+    Close();
+    EXPECT_EQ(settingsStore.UseThinLines.value, 1u);
+    EXPECT_FALSE(settingsStore.UseThinLines.changed);
+}
+
+TEST_F(GeneralPageTest, SavesTheBoxesOfWideScreens) {
+    if (GetSystemMetrics(SM_CXSCREEN) < 480) GTEST_SKIP() << "needs the wide screen";
+    SetNumber(HKEY_CURRENT_USER, kRoot, L"MyVgaMode", 1);
+    HWND window = Open();
+    EXPECT_EQ(IsDlgButtonChecked(window, 1236), 1u);
+    EXPECT_EQ(IsDlgButtonChecked(window, 1237), 0u);
+    Tap(window, 1237);
+    Tap(window, 1236);
+    Close();
+    EXPECT_EQ(settingsStore.MyVgaMode.value, 0u);
+    EXPECT_EQ(settingsStore.UseThinLines.value, 1u);
+}
+
+// Another program may close the main window while the folder dialog, and the page below, are open.
+TEST_F(GeneralPageTest, SurvivesBeingClosedBehindTheFolderDialog) {
+    HWND window = Open();
+    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
+        if (!dialog) return;
+        KillTimer(nullptr, timer);
+        ClosePage(**openPage);
+        openPage->reset();
+    });
+    openPage = &page_;
+    Tap(window, 1214);
+    EXPECT_FALSE(IsWindow(window));
 }
 } // namespace

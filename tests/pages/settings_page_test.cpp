@@ -142,7 +142,7 @@ TEST_F(PageHost, KeepsTheStripAtTheBottomWhenOnlyTheSizeChanges) {
     GetWindowRect(page.tabStrip, &strip);
     MapWindowPoints(nullptr, page.hwnd, reinterpret_cast<POINT*>(&strip), 2);
     EXPECT_EQ(strip.left, Scale(-2));
-    EXPECT_EQ(strip.top, client.bottom - ScaleY(22) + 1);
+    EXPECT_EQ(strip.top, client.bottom - Scale(22) + 1);
     EXPECT_EQ(strip.right - strip.left, client.right + Scale(2));
     EXPECT_EQ(strip.bottom, client.bottom);
     ClosePage(page);
@@ -163,8 +163,10 @@ TEST_F(PageHost, RoutesCommandsAndMessages) {
 
     page.log.clear();
     SendMessage(page.hwnd, WM_COMMAND, IDOK, 0);
-    EXPECT_EQ(closeRequests, 1);
-    EXPECT_EQ(page.log, "") << "OK belongs to the main window";
+    SendMessage(page.hwnd, WM_CLOSE, 0, 0);
+    EXPECT_EQ(closeRequests, 2);
+    EXPECT_EQ(page.log, "") << "closing belongs to the main window";
+    EXPECT_NE(page.hwnd, nullptr);
     ClosePage(page);
 }
 
@@ -181,15 +183,15 @@ TEST_F(PageHost, DrawsColourSamples) {
     RecordingPage page(0);
     HDC screen = GetDC(nullptr);
     HDC dc = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, Scale(60), ScaleY(60));
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, Scale(60), Scale(60));
     ReleaseDC(nullptr, screen);
     HGDIOBJ previous = SelectObject(dc, bitmap);
-    page.DrawColourSample(dc, RGB(200, 10, 30), Scale(5), ScaleY(5));
-    EXPECT_EQ(GetPixel(dc, Scale(5), ScaleY(5)), RGB(0, 0, 0));
-    EXPECT_EQ(GetPixel(dc, Scale(5) + Scale(44) - 1, ScaleY(5) + ScaleY(20) - 1), RGB(0, 0, 0));
-    EXPECT_EQ(GetPixel(dc, Scale(20), ScaleY(15)), RGB(200, 10, 30));
-    page.DrawColourSample(dc, 0xFFFFFFFF, Scale(5), ScaleY(30));
-    EXPECT_EQ(GetPixel(dc, Scale(7), ScaleY(33)), RGB(255, 255, 255));
+    page.DrawColourSample(dc, RGB(200, 10, 30), Scale(5), Scale(5));
+    EXPECT_EQ(GetPixel(dc, Scale(5), Scale(5)), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(dc, Scale(5) + Scale(44) - 1, Scale(5) + Scale(20) - 1), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(dc, Scale(20), Scale(15)), RGB(200, 10, 30));
+    page.DrawColourSample(dc, 0xFFFFFFFF, Scale(5), Scale(30));
+    EXPECT_EQ(GetPixel(dc, Scale(7), Scale(33)), RGB(255, 255, 255));
     SelectObject(dc, previous);
     DeleteObject(bitmap);
     DeleteDC(dc);

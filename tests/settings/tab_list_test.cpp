@@ -169,6 +169,11 @@ TEST_F(TabListTest, AKeyThatCannotBeOpenedHoldsNoTabs) {
     StandInFailCall(kRegCreateKeyCalls, kTabKey, ERROR_ACCESS_DENIED);
     LoadInto(*store);
     EXPECT_EQ(OrderOf(store->tabs), L"2 4 16 64 32 8 ");
+    // A save does not delete what was never read.
+    StandInResetCalls();
+    store->Save();
+    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, KeyOf(L"hosted"), L"Order"), 1U);
+    SetUserNumber(kTabs, L"MailTabOrder", 1);
 
     // The subkey alone: the tab is there, with its defaults.
     StandInFailCall(kRegOpenKeyCalls, 8, ERROR_ACCESS_DENIED);

@@ -19,14 +19,17 @@ constexpr UINT kList = 6;
 constexpr UINT kButton = 7;
 
 std::string told;
+HWND hiddenByTab; // A control that a switch of tabs hides.
 
 LRESULT CALLBACK RootProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED)
         told += "click" + std::to_string(LOWORD(wParam)) + " ";
     if (message == WM_COMMAND && HIWORD(wParam) == CBN_SELCHANGE && LOWORD(wParam) == kCombo)
         told += "choice ";
-    if (message == WM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == TCN_SELCHANGE)
+    if (message == WM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == TCN_SELCHANGE) {
         told += "tab ";
+        if (hiddenByTab) ShowWindow(hiddenByTab, SW_HIDE);
+    }
     return DefWindowProc(window, message, wParam, lParam);
 }
 
@@ -165,13 +168,32 @@ TEST_F(KeyNavigation, ArrowsOnTheStripSwitchTabsWithNotice) {
     EXPECT_EQ(told, "tab tab tab ");
 }
 
+TEST_F(KeyNavigation, AKeyToTheWindowItselfFindsTheFirstControl) {
+    for (const WPARAM key : {VK_TAB, VK_DOWN, VK_UP, VK_RETURN}) {
+        SetFocus(root_);
+        Press(key);
+        EXPECT_EQ(Focused(), kFirstBox) << key;
+    }
+}
+
+TEST_F(KeyNavigation, CtrlTabSwitchesFromAnywhereAndKeepsAFocus) {
+    BYTE keys[256] = {};
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    hiddenByTab = GetDlgItem(root_, kFirstBox);
+    Press(VK_TAB);
+    hiddenByTab = nullptr;
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys);
+    EXPECT_EQ(SendMessage(strip_, TCM_GETCURSEL, 0, 0), 1);
+    EXPECT_EQ(Focused(), kCombo) << "the focused box was on the tab that is hidden now";
+}
+
 TEST_F(KeyNavigation, LeavesOtherWindowsAlone) {
     MSG message{};
     message.hwnd = GetDesktopWindow();
     message.message = WM_KEYDOWN;
     message.wParam = VK_TAB;
-    EXPECT_FALSE(TranslateNavigationKey(root_, message));
-    message.hwnd = root_;
     EXPECT_FALSE(TranslateNavigationKey(root_, message));
 }
 } // namespace

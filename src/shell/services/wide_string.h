@@ -29,8 +29,8 @@ class WideString {
     // Never null; valid until the string changes.
     [[nodiscard]] const wchar_t* CStr() const { return buffer_; }
     [[nodiscard]] size_t Length() const { return length_; }
-    // Characters the string holds before it allocates again, as the dashboard's own strings count:
-    // 64 at first, and 64 more than a text needs that comes within 4 of the end.
+    // Characters the string is said to hold: 64 at first, and 64 more than a text needs that comes
+    // within 4 of the end. The block behind it may be larger.
     [[nodiscard]] size_t Capacity() const { return capacity_; }
     [[nodiscard]] bool IsEmpty() const { return length_ == 0; }
 
