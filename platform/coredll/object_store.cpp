@@ -236,6 +236,7 @@ CEOID WINAPI CeSeekDatabase(HANDLE database, DWORD seekType, DWORD_PTR value, LP
 
 // Steps to the next record only where the database was opened with CEDB_AUTOINCREMENT; without, the
 // caller seeks. Behind the last record: 0 with ERROR_NO_MORE_ITEMS.
+// NOLINTNEXTLINE(readability-non-const-parameter): the signature is the platform's.
 CEOID WINAPI CeReadRecordPropsEx(HANDLE database, DWORD flags, LPWORD propCount, CEPROPID* propIds,
                                  LPBYTE* buffer, LPDWORD bufferSize, HANDLE heap) {
     const LockScope scope;
