@@ -45,7 +45,10 @@ void PageList::Create(HWND parent) {
     SendMessage(window_, LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Get()));
     AddColumn(window_, client.right);
     SpaceIcons();
+    // Drawn once, not for each row.
+    SendMessage(window_, WM_SETREDRAW, FALSE, 0);
     AddRows();
+    SendMessage(window_, WM_SETREDRAW, TRUE, 0);
     SetFocus(window_);
 }
 
