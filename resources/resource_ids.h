@@ -51,8 +51,8 @@
 #define IDS_TAB_TABS_DEFAULT 1402
 #define IDS_TAB_CATEGORY_CATEGORIES 1428
 #define IDS_TAB_CATEGORY_FILTERS 1431
-#define IDS_TAB_FONTS_ITEMS 1434     // While the general font serves all items: their colours.
-#define IDS_TAB_FONTS_ITEMS_OFF 1435 // While it is off and each item has a font of its own.
+#define IDS_TAB_FONTS_ITEM_COLOURS 1434 // While the general font serves all items.
+#define IDS_TAB_FONTS_ITEM_FONTS 1435   // While each item has a font of its own.
 #define IDS_TAB_GENERAL_APPEARANCE 1491
 #define IDS_TAB_NOTES_FOLDERS 1492
 #define IDS_TAB_NOTES_FILES 1494
