@@ -24,9 +24,14 @@ class AboutWindow final : public ModalWindow {
     void CreateControls(HWND window) override;
     void OnCommand(HWND window, UINT id, UINT notification) override;
     void OnPaint(HWND window, HDC dc) override;
+
+  private:
+    UniqueIcon icon_;
 };
 
 void AboutWindow::CreateControls(HWND window) {
+    icon_.Reset(static_cast<HICON>(LoadImage(application.instance, MAKEINTRESOURCE(IDI_PROGRAM),
+                                             IMAGE_ICON, Scale(kIconSize), ScaleY(kIconSize), 0)));
     RECT client{};
     GetClientRect(window, &client);
     CreateControl(
@@ -52,8 +57,8 @@ void AboutWindow::OnPaint(HWND window, HDC dc) {
     const int top = ScaleY(kMargin);
     const int right = client.right - left;
     const int textLeft = left + Scale(kIconSize) + left;
-    DrawIconEx(dc, left, top, LoadIcon(application.instance, MAKEINTRESOURCE(IDI_PROGRAM)),
-               Scale(kIconSize), ScaleY(kIconSize), 0, nullptr, DI_NORMAL);
+    DrawIconEx(dc, left, top, icon_.Get(), Scale(kIconSize), ScaleY(kIconSize), 0, nullptr,
+               DI_NORMAL);
     SetBkMode(dc, TRANSPARENT);
     DrawLine(dc, application.boldFont, kProgramTitle,
              {textLeft, top, right, top + ScaleY(kLineHeight)}, DT_SINGLELINE);

@@ -52,6 +52,9 @@ inline void Module(HMODULE module) {
 inline void Images(HIMAGELIST images) {
     ImageList_Destroy(images);
 }
+inline void Icon(HICON icon) {
+    DestroyIcon(icon);
+}
 inline void Menu(HMENU menu) {
     DestroyMenu(menu);
 }
@@ -64,6 +67,7 @@ using UniqueBrush = UniqueHandle<HBRUSH, handle_closers::GdiObject>;
 using UniqueDc = UniqueHandle<HDC, handle_closers::Dc>;
 using UniqueModule = UniqueHandle<HMODULE, handle_closers::Module>;
 using UniqueImageList = UniqueHandle<HIMAGELIST, handle_closers::Images>;
+using UniqueIcon = UniqueHandle<HICON, handle_closers::Icon>;
 using UniqueMenu = UniqueHandle<HMENU, handle_closers::Menu>;
 
 // FindFirstFile answers INVALID_HANDLE_VALUE for "none", not null.
