@@ -236,7 +236,8 @@ CEOID WINAPI CeSeekDatabase(HANDLE database, DWORD seekType, DWORD_PTR value, LP
 
 // Steps to the next record only where the database was opened with CEDB_AUTOINCREMENT; without, the
 // caller seeks. Behind the last record: 0 with ERROR_NO_MORE_ITEMS.
-// NOLINTNEXTLINE(readability-non-const-parameter): the signature is the platform's.
+// The signature is the platform's.
+// NOLINTBEGIN(readability-non-const-parameter)
 CEOID WINAPI CeReadRecordPropsEx(HANDLE database, DWORD flags, LPWORD propCount, CEPROPID* propIds,
                                  LPBYTE* buffer, LPDWORD bufferSize, HANDLE heap) {
     const LockScope scope;
@@ -252,6 +253,7 @@ CEOID WINAPI CeReadRecordPropsEx(HANDLE database, DWORD flags, LPWORD propCount,
     SetLastError(result);
     return 0;
 }
+// NOLINTEND(readability-non-const-parameter)
 
 BOOL WINAPI CoreCloseHandle(HANDLE handle) {
     {
