@@ -27,7 +27,7 @@ bool ReachesPlannedFailure() {
 LONG CountCall(StandInCalls kind) {
     ++counts[std::bit_width(static_cast<ULONG>(kind))];
     if ((failingCalls & kind) == 0 || !ReachesPlannedFailure()) return ERROR_SUCCESS;
-    if (failure == kExit) TerminateProcess(GetCurrentProcess(), 1);
+    if (failure == kExit) TerminateProcess(GetCurrentProcess(), kStandInExitCode);
     return failure;
 }
 

@@ -28,6 +28,8 @@ enum StandInCalls : ULONG {
     kFileCalls = (1U << 18) - 1 - kRegistryCalls,
 };
 
+constexpr UINT kStandInExitCode = 99;
+
 extern "C" {
 // Calls of all kinds in the set since the start or the last reset, failed ones too.
 ULONG WINAPI StandInCallCount(ULONG calls);
@@ -39,8 +41,8 @@ void WINAPI StandInResetCalls();
 // Only that one call fails. A plan replaces the one before; nth 0 means that none fails.
 void WINAPI StandInFailCall(ULONG calls, ULONG nth, LONG error);
 
-// Ends the process, as if its battery were taken out, at the nth call from now of those in the set.
-// Takes the place of a planned failure, and the other way round.
+// Ends the process, as if its battery were taken out, at the nth call from now of those in the set;
+// its exit code is kStandInExitCode. Takes the place of a planned failure, and the other way round.
 void WINAPI StandInExitAtCall(ULONG calls, ULONG nth);
 
 // Sets the version of the system played; 0, 0 goes back to OVDEVICE_OS, or 5.1 without it.
