@@ -154,6 +154,13 @@
 // Texts: pages without settings of their own yet.
 #define IDS_PAGE_OUTLINE 2030
 
+// Texts: the file dialogs.
+#define IDS_FILE_NAME 2040
+#define IDS_FILE_TYPE 2041
+#define IDS_FILE_EMPTY 2042
+#define IDS_FILE_REPLACE_CAPTION 2043
+#define IDS_FILE_REPLACE_QUESTION 2044
+
 // Menus of the language libraries.
 #define IDM_MAIN 153
 
@@ -164,9 +171,10 @@
 #define IDC_IMPORT_BACKUP 1135
 
 // Bitmaps of the display libraries.
-#define IDB_MENU_BAR 158  // Two images of 16 units: 0 cancel, 1 ok. Mask COLORREF 0xC6CFDE.
-#define IDB_PAGE_LIST 159 // Twelve images of 32 units, one per page. Mask COLORREF 0x00FF00.
-#define IDB_ARROWS 213    // 20 by 12 units: step down, step up. Mask COLORREF 0x0000FF.
+#define IDB_MENU_BAR 158    // Two images of 16 units: 0 cancel, 1 ok. Mask COLORREF 0xC6CFDE.
+#define IDB_PAGE_LIST 159   // Twelve images of 32 units, one per page. Mask COLORREF 0x00FF00.
+#define IDB_FILE_IMAGES 160 // Two images of 20 units: 0 folder, 1 file. Mask COLORREF 0x00FF00.
+#define IDB_ARROWS 213      // 20 by 12 units: step down, step up. Mask COLORREF 0x0000FF.
 
 // Bitmaps of the display libraries: the dashboard's symbols, each 12 by 12 units, on white and
 // never white where they are drawn. The check boxes are on COLORREF 0x0000FF, the tab arrows on
