@@ -13,6 +13,7 @@ namespace {
 constexpr int kSpacing = 1;       // Units from an item to the next.
 constexpr int kSecondTextGap = 4; // Units between the subject and a text behind it.
 constexpr COLORREF kBuiltInBusy = RGB(44, 77, 156);
+constexpr COLORREF kUncategorised = RGB(160, 160, 160);
 
 int ScaleAcross(int units) {
     return Scale(units);
@@ -52,9 +53,11 @@ int DrawBehindSubject(const LinePainter& painter, const LineLayout& layout, cons
     return layout.subjectEnd - width - Scale(kSecondTextGap);
 }
 
-COLORREF BusyColour(const SettingsStore& store) {
-    const uint32_t colour = store.ClrStatusBusy.value;
-    return colour == kNoColour ? kBuiltInBusy : colour & 0xFFFFFF;
+// By status, where every item drawn here is busy, or by category, where none has one.
+COLORREF LeadingRectColour(const SettingsStore& store) {
+    constexpr uint32_t kByStatus = 1;
+    if (store.LeadingRects.value != kByStatus) return kUncategorised;
+    return ColourOr(store.ClrStatusBusy.value, kBuiltInBusy);
 }
 
 } // namespace
@@ -75,7 +78,7 @@ int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const
     const LineLayout layout = LayOutAppointment(space, columns, TimeColumnFor(columns, style.font),
                                                 TextWidth(dc, texts.label), ScaleAcross);
     const LinePainter painter(dc, style, place.top);
-    if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, BusyColour(store_));
+    if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, LeadingRectColour(store_));
     painter.LeftIconRow(symbols_, layout.leftIcons, columns.appointmentIcons);
     painter.RightIconRow(symbols_, place.right, icons);
     painter.Text(texts.label, layout.label, layout.subject);

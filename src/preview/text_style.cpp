@@ -41,12 +41,11 @@ LOGFONT FontOf(const SettingsStore& store, const FontSetting& own) {
     return font;
 }
 
-// The high byte of a colour would have another meaning to the platform.
-COLORREF ColourOr(uint32_t value, COLORREF fallback) {
-    return value == kNoColour ? fallback : value & 0xFFFFFF;
-}
-
 } // namespace
+
+COLORREF ColourOr(uint32_t value, COLORREF builtIn) {
+    return value == kNoColour ? builtIn : value & 0xFFFFFF;
+}
 
 TextStyle TextStyleOf(const SettingsStore& store, const FontSetting& own) {
     const uint32_t shadow = store.UseShadowColor.value;
