@@ -43,14 +43,29 @@ AppointmentTexts TextsOf(const SettingsStore& store, uint32_t format, const Prev
                               TimeText(time, TimeFormOf(format)));
 }
 
-// A place of its own at the line's end, of at most half of what the subject has: gives where the
-// subject then ends.
+// A text behind the subject stands at the line's end, in at most half of what the subject has.
+// Gives where the subject then ends.
 int DrawBehindSubject(const LinePainter& painter, const LineLayout& layout, const WideString& text,
                       int textWidth) {
     if (text.IsEmpty()) return layout.subjectEnd;
     const int width = std::min(textWidth, (layout.subjectEnd - layout.subject) / 2);
     painter.Text(text, layout.subjectEnd - width, layout.subjectEnd);
     return layout.subjectEnd - width - Scale(kSecondTextGap);
+}
+
+void DrawTexts(HDC dc, const RECT& place, const TextStyle& style, const LineLayout& layout,
+               const AppointmentTexts& texts, bool hasSecondLine) {
+    const LinePainter painter(dc, style, place.top);
+    painter.Text(texts.label, layout.label, layout.subject);
+    if (hasSecondLine) {
+        const LinePainter below(dc, style, place.top + LineHeight(dc));
+        below.Text(texts.second, layout.subject, place.right);
+        painter.Text(texts.subject, layout.subject, layout.subjectEnd);
+    } else {
+        const int end =
+            DrawBehindSubject(painter, layout, texts.second, TextWidth(dc, texts.second));
+        painter.Text(texts.subject, layout.subject, end);
+    }
 }
 
 // By status, where every item drawn here is busy, or by category, where none has one.
@@ -67,8 +82,8 @@ int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const
     const ColumnSettings columns = ColumnsOf(store_);
     const TextStyle style = TextStyleOf(store_, store_.FontCalApptBusy);
     const SelectScope font(dc, font_.Get(style.font));
-    const int lineHeight = LineHeight(dc);
-    const int height = lineHeight * (HasSecondLine(columns.format) ? 2 : 1) + ScaleY(kSpacing);
+    const bool hasSecondLine = HasSecondLine(columns.format);
+    const int height = LineHeight(dc) * (hasSecondLine ? 2 : 1) + ScaleY(kSpacing);
     if (pass == DrawingPass::Measure) return height;
 
     const AppointmentTexts texts = TextsOf(store_, columns.format, item, day);
@@ -81,15 +96,7 @@ int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const
     if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, LeadingRectColour(store_));
     painter.LeftIconRow(symbols_, layout.leftIcons, columns.appointmentIcons);
     painter.RightIconRow(symbols_, place.right, icons);
-    painter.Text(texts.label, layout.label, layout.subject);
-    int subjectEnd = layout.subjectEnd;
-    if (HasSecondLine(columns.format)) {
-        const LinePainter below(dc, style, place.top + lineHeight);
-        below.Text(texts.second, layout.subject, place.right);
-    } else {
-        subjectEnd = DrawBehindSubject(painter, layout, texts.second, TextWidth(dc, texts.second));
-    }
-    painter.Text(texts.subject, layout.subject, subjectEnd);
+    DrawTexts(dc, place, style, layout, texts, hasSecondLine);
     return height;
 }
 

@@ -96,7 +96,10 @@ class ItemSampleTest : public StoreFixture {
             DwordSetting& setting = (*store_).*changes[i].setting;
             const uint32_t old = setting.value;
             setting.value = changes[i].value;
-            EXPECT_TRUE(paint() != before) << "change " << i;
+            const Pixels after = paint();
+            EXPECT_TRUE(after != before) << "change " << i;
+            sample_ = std::make_unique<ItemSample>(*store_);
+            EXPECT_TRUE(paint() == after) << "change " << i << ", shown by a new sample";
             setting.value = old;
             EXPECT_TRUE(paint() == before) << "change " << i;
         }
@@ -117,6 +120,8 @@ TEST_F(ItemSampleTest, ShowsEveryChangeAtOnce) {
     EXPECT_EQ(formats.size(), 12U);
 
     store_->ApptDisplayFormat.value = 1;
+    store_->FontCalApptBusy.logFont.lfHeight = 20;
+    store_->FontTskNoDue.logFont.lfHeight = 20;
     ExpectShown({{&SettingsStore::ApptLeftAlignIcon1, 4},
                  {&SettingsStore::ApptLeftAlignIcon2, 8},
                  {&SettingsStore::TaskLeftAlignIcon1, 4}, // Widens the common column.
@@ -126,7 +131,8 @@ TEST_F(ItemSampleTest, ShowsEveryChangeAtOnce) {
                  {&SettingsStore::LeadingRects, 0},
                  {&SettingsStore::LeadingRects, 2},
                  {&SettingsStore::Force2DigitsTImeFrmt, 1},
-                 {&SettingsStore::FontGnrlSize, 20},
+                 {&SettingsStore::FontGnrlSize, 18},
+                 {&SettingsStore::FontGnrlUseAdvncd, 1},
                  {&SettingsStore::UseShadowColor, 1},
                  {&SettingsStore::GeneralFontColor, 0x0000FF},
                  {&SettingsStore::ClrStatusBusy, 0x0000FF}},
@@ -134,19 +140,9 @@ TEST_F(ItemSampleTest, ShowsEveryChangeAtOnce) {
     ExpectShown({{&SettingsStore::TaskTabLeftAlignIcon1, 1},
                  {&SettingsStore::TaskTabLeftAlignIcon2, 2},
                  {&SettingsStore::TasksRightIcons, 0},
+                 {&SettingsStore::FontGnrlUseAdvncd, 1},
                  {&SettingsStore::IndentItems, 1}},
                 [this] { return Task(); });
-}
-
-TEST_F(ItemSampleTest, UsesTheItemsOwnFontWhereThereIsOne) {
-    store_->ApptDisplayFormat.value = 1;
-    store_->FontCalApptBusy.logFont.lfHeight = 20;
-    store_->FontTskNoDue.logFont.lfHeight = 20;
-    const Pixels general = Appointment();
-    const Pixels generalTask = Task();
-    store_->FontGnrlUseAdvncd.value = 1;
-    EXPECT_TRUE(Appointment() != general);
-    EXPECT_TRUE(Task() != generalTask);
 }
 
 // Whatever the registry holds, the same objects serve every picture.
@@ -221,10 +217,11 @@ TEST(Clock, AgreesWithThePlatformsCalendar) {
     ASSERT_TRUE(SystemTimeToVariantTime(&now, &date));
     EXPECT_EQ(Today(), static_cast<int>(date));
 
-    EXPECT_EQ(TimeOfDayText(37216.5, L"h:mmt"), L"12:00P");
-    EXPECT_EQ(TimeOfDayText(37216 + 9.0 / 24, L"HH:mm"), L"09:00");
-    EXPECT_EQ(TimeOfDayText(37216 + 17.0 / 24 + 5.0 / 1440, L"H:mm"), L"17:05");
-    EXPECT_EQ(TimeOfDayText(37216 - 1e-9, L"H:mm"), L"0:00");
+    EXPECT_EQ(TimeOfDayText(37216.5, TimePicture(true, false)), L"12:00P");
+    EXPECT_EQ(TimeOfDayText(37216.375, TimePicture(true, true)), L"09:00A");
+    EXPECT_EQ(TimeOfDayText(37216.375, TimePicture(false, true)), L"09:00");
+    EXPECT_EQ(TimeOfDayText(37216 + 17.0 / 24 + 5.0 / 1440, TimePicture(false, false)), L"17:05");
+    EXPECT_EQ(TimeOfDayText(37216 - 1e-9, TimePicture(false, false)), L"0:00");
 }
 
 } // namespace

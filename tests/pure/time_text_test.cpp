@@ -56,11 +56,4 @@ TEST(TimeText, TellsWhatLiesOnTheDay) {
     }
 }
 
-TEST(TimeText, PictureFollowsTheClock) {
-    EXPECT_STREQ(TimePicture(true, false), L"h:mmt");
-    EXPECT_STREQ(TimePicture(true, true), L"hh:mmt");
-    EXPECT_STREQ(TimePicture(false, false), L"H:mm");
-    EXPECT_STREQ(TimePicture(false, true), L"HH:mm");
-}
-
 } // namespace
