@@ -39,8 +39,8 @@ bool ReadRecord(HANDLE database, CategoryRecord& record) {
     WORD count = std::size(ids);
     LPBYTE buffer = nullptr;
     DWORD size = 0;
-    const bool found = CeReadRecordPropsEx(database, CEDB_ALLOWREALLOC, &count, ids, &buffer, &size,
-                                           nullptr) != 0;
+    const bool found =
+        CeReadRecordPropsEx(database, CEDB_ALLOWREALLOC, &count, ids, &buffer, &size, nullptr) != 0;
     if (found && buffer != nullptr) {
         record = RecordOf(reinterpret_cast<const CEPROPVAL*>(buffer), count);
     }
@@ -58,8 +58,7 @@ std::vector<CategoryRecord> ReadCategoriesDatabase() {
     CEOID oid = 0;
     wchar_t name[] = L"\\Categories Database";
     // By the order of the records: each read then goes on to the next.
-    HANDLE database =
-        CeOpenDatabaseEx(&objectStore, &oid, name, 0, CEDB_AUTOINCREMENT, nullptr);
+    HANDLE database = CeOpenDatabaseEx(&objectStore, &oid, name, 0, CEDB_AUTOINCREMENT, nullptr);
     if (database == INVALID_HANDLE_VALUE) return records;
     const CloseDatabase closes{database};
     if (CeSeekDatabase(database, CEDB_SEEK_BEGINNING, 0, nullptr) == 0) return records;

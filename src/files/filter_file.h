@@ -20,9 +20,9 @@ using Filters = std::array<FilterEntry, 32>;
 void SetDefaultFilters(Filters& filters);
 
 // Reads a filter file: one byte a character, zero bytes dropped, so a title keeps what is below
-// U+0100 and other characters fall apart. The filters are the defaults unless the file holds exactly 32
-// filters in order; what a filter's lines do not hold has its default. Of a line, 4,096 characters
-// count.
+// U+0100 and other characters fall apart. The filters are the defaults unless the file holds
+// exactly 32 filters in order; what a filter's lines do not hold has its default. Of a line, 4,096
+// characters count.
 void ReadFilters(ByteSource& file, Filters& filters);
 
 // Writes a filter file, UTF-16 without a mark, one write a line.

@@ -52,7 +52,8 @@ std::vector<WideString> SchemeFileNames() {
 
 bool SchemeExists(const wchar_t* name) {
     WIN32_FIND_DATA found;
-    return static_cast<bool>(UniqueFind(FindFirstFile(SchemePath(name, kExtension).CStr(), &found)));
+    return static_cast<bool>(
+        UniqueFind(FindFirstFile(SchemePath(name, kExtension).CStr(), &found)));
 }
 
 void WriteScheme(const wchar_t* name, const CategoryStore& categories) {

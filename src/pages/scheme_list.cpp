@@ -53,7 +53,8 @@ int ConfirmedRow(HWND owner, HWND list, UINT questionId, UINT captionId) {
     return AskYesNo(owner, questionId, captionId) ? row : -1;
 }
 
-// The pages' texts are of the library that was loaded before: all is loaded anew, and the page goes.
+// The pages' texts are of the library that was loaded before: all is loaded anew, and the page
+// goes.
 void AdoptLoadedScheme(HWND owner) {
     settingsStore.Load(application.languageLibrary);
     categoryStore.ResolveSelections();
