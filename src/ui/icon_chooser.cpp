@@ -1,0 +1,208 @@
+#include "ui/icon_chooser.h"
+
+#include <algorithm>
+
+#include "resource_ids.h"
+#include "shell/services/handles.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "ui/symbol_image.h"
+
+namespace {
+constexpr COLORREF kFrame = RGB(128, 128, 128);
+constexpr COLORREF kChosenFrame = RGB(0, 60, 140);
+constexpr COLORREF kChosenFace = RGB(200, 222, 250);
+constexpr int kArrowWidth = 15;
+constexpr int kGap = 3;
+constexpr int kEntryHeight = 21;
+constexpr int kEntryCaption = 26; // Where an entry's caption begins, behind its icon.
+constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+
+void DrawFrame(HDC dc, const RECT& place, COLORREF frame, COLORREF face) {
+    const UniqueBrush frameBrush(CreateSolidBrush(frame));
+    const UniqueBrush faceBrush(CreateSolidBrush(face));
+    RECT inside = place;
+    FillRect(dc, &inside, frameBrush.Get());
+    InflateRect(&inside, -Scale(1), -ScaleY(1));
+    FillRect(dc, &inside, faceBrush.Get());
+}
+
+int TextWidth(HDC dc, const WideString& text) {
+    RECT bounds{};
+    DrawText(dc, text.CStr(), -1, &bounds, kTextFormat | DT_CALCRECT);
+    return bounds.right;
+}
+
+// A small triangle that points down.
+void DrawArrow(HDC dc, const RECT& place) {
+    const int x = (place.left + place.right) / 2;
+    const int y = (place.top + place.bottom) / 2;
+    const POINT corners[] = {
+        {x - Scale(4), y - ScaleY(2)}, {x + Scale(4), y - ScaleY(2)}, {x, y + ScaleY(2)}};
+    const SelectScope brush(dc, GetStockObject(BLACK_BRUSH));
+    const SelectScope pen(dc, GetStockObject(BLACK_PEN));
+    Polygon(dc, corners, 3);
+}
+} // namespace
+
+void IconChooser::Create(HWND page, HFONT font, const IconChooserKind& kind, uint32_t value) {
+    kind_ = kind;
+    withdrawn_ = 0;
+    value_ = value;
+    if (kind.choice == IconChoice::Set) {
+        uint32_t all = 0;
+        for (const IconFlag& flag : kind.flags)
+            all |= flag.flag;
+        value_ &= all;
+    }
+    label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(),
+                           SS_RIGHT | SS_CENTERIMAGE, kind.labelId, {}, font);
+    if (!CreateStrip(page, kind.id, font) || kind.choice == IconChoice::Set) return;
+    if (marker_.Create(Window())) ShowMarker();
+}
+
+void IconChooser::Place(const ControlPlace& label, const ControlPlace& buttons) const {
+    if (label_) MoveWindow(label_, label.x, label.y, label.width, label.height, TRUE);
+    if (!Window()) return;
+    MoveWindow(Window(), buttons.x, buttons.y, buttons.width, buttons.height, TRUE);
+    const int side = buttons.height;
+    if (kind_.choice == IconChoice::One) marker_.Place({0, 0, side, side});
+}
+
+void IconChooser::Withdraw(uint32_t flag) {
+    for (const IconFlag& known : kind_.flags) {
+        if (known.flag != flag) continue;
+        withdrawn_ |= flag;
+        value_ &= ~flag;
+    }
+    Redraw();
+}
+
+void IconChooser::Offer(uint32_t flag) {
+    withdrawn_ &= ~flag;
+    Redraw();
+}
+
+int IconChooser::ButtonCount() const {
+    return kind_.choice == IconChoice::One ? 1 : static_cast<int>(kind_.flags.size());
+}
+
+bool IconChooser::IsOffered(int button) const {
+    return kind_.choice == IconChoice::One ||
+           !(withdrawn_ & kind_.flags[static_cast<size_t>(button)].flag);
+}
+
+WideString IconChooser::NameOf(int button) const {
+    return EntryName(kind_.choice == IconChoice::One ? ChosenEntry() : button + 1);
+}
+
+int IconChooser::ChosenEntry() const {
+    for (size_t i = 0; i < kind_.flags.size(); ++i) {
+        if (kind_.flags[i].flag == value_) return static_cast<int>(i) + 1;
+    }
+    return 0;
+}
+
+WideString IconChooser::EntryName(int entry) const {
+    return LanguageText(entry ? kind_.flags[static_cast<size_t>(entry) - 1].caption
+                              : IDS_ICON_NONE);
+}
+
+void IconChooser::ShowMarker() const {
+    const int entry = ChosenEntry();
+    marker_.Show(entry ? kind_.flags[static_cast<size_t>(entry) - 1].bitmap : 0);
+}
+
+void IconChooser::DrawButton(HDC dc, int button, const RECT& place) const {
+    if (kind_.choice == IconChoice::One) {
+        DrawDropDown(dc, place);
+        return;
+    }
+    const IconFlag& flag = kind_.flags[static_cast<size_t>(button)];
+    if (value_ & flag.flag) DrawFrame(dc, place, kChosenFrame, kChosenFace);
+    DrawSymbol(dc, flag.bitmap, place, !IsOffered(button));
+}
+
+void IconChooser::DrawDropDown(HDC dc, const RECT& place) const {
+    DrawFrame(dc, place, kFrame, RGB(255, 255, 255));
+    RECT arrow = place;
+    arrow.left = place.right - Scale(kArrowWidth);
+    DrawArrow(dc, arrow);
+    RECT caption = place;
+    caption.left = place.bottom + Scale(kGap); // Behind the marker, which is a square.
+    caption.right = arrow.left;
+    const SelectScope font(dc, Font());
+    const WideString name = NameOf(0);
+    // A narrow button shows the icon alone.
+    if (TextWidth(dc, name) <= caption.right - caption.left)
+        DrawText(dc, name.CStr(), -1, &caption, kTextFormat);
+}
+
+void IconChooser::Press(int button) {
+    if (kind_.choice == IconChoice::One) {
+        ChooseFromMenu();
+        return;
+    }
+    value_ ^= kind_.flags[static_cast<size_t>(button)].flag;
+    Redraw();
+    SendMessage(GetParent(Window()), kMessageToolbarClick, 0, kind_.code);
+}
+
+void IconChooser::Step(bool forward) {
+    if (kind_.choice == IconChoice::Set) {
+        ButtonStrip::Step(forward);
+        return;
+    }
+    const int entry = ChosenEntry() + (forward ? 1 : -1);
+    if (entry >= 0 && entry <= static_cast<int>(kind_.flags.size())) ChooseEntry(entry);
+}
+
+void IconChooser::ChooseFromMenu() {
+    const UniqueMenu menu(CreatePopupMenu());
+    const int count = static_cast<int>(kind_.flags.size()) + 1;
+    // A menu's command 0 would mean that nothing was chosen.
+    for (int entry = 0; entry < count; ++entry)
+        AppendMenu(menu.Get(), MF_OWNERDRAW | (entry == ChosenEntry() ? MF_CHECKED : 0), entry + 1,
+                   nullptr);
+    HWND window = Window();
+    RECT place{};
+    GetWindowRect(window, &place);
+    const int command = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN,
+                                         place.left, place.bottom, window, nullptr);
+    // While the menu was open the page may have been closed, and this chooser with it.
+    if (command > 0 && IsWindow(window)) ChooseEntry(command - 1);
+}
+
+void IconChooser::ChooseEntry(int entry) {
+    value_ = entry ? kind_.flags[static_cast<size_t>(entry) - 1].flag : 0;
+    ShowMarker();
+    Redraw();
+    SendMessage(GetParent(Window()), kMessageToolbarMenuSelect, value_, kind_.code);
+}
+
+void IconChooser::MeasureEntry(MEASUREITEMSTRUCT& entry) const {
+    HDC screen = GetDC(nullptr);
+    {
+        const SelectScope font(screen, Font());
+        const int width = TextWidth(screen, EntryName(static_cast<int>(entry.itemID) - 1));
+        entry.itemWidth = static_cast<UINT>(Scale(kEntryCaption) + width + Scale(kGap));
+    }
+    ReleaseDC(nullptr, screen);
+    entry.itemHeight = static_cast<UINT>(ScaleY(kEntryHeight));
+}
+
+void IconChooser::DrawEntry(const DRAWITEMSTRUCT& entry) const {
+    const int index = static_cast<int>(entry.itemID) - 1;
+    const bool isSelected = entry.itemState & ODS_SELECTED;
+    FillRect(entry.hDC, &entry.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_MENU));
+    RECT icon = entry.rcItem;
+    icon.right = icon.left + Scale(kEntryCaption) - Scale(kGap);
+    if (index == ChosenEntry()) DrawFrame(entry.hDC, icon, kChosenFrame, kChosenFace);
+    if (index > 0) DrawSymbol(entry.hDC, kind_.flags[static_cast<size_t>(index) - 1].bitmap, icon);
+    RECT caption = entry.rcItem;
+    caption.left += Scale(kEntryCaption);
+    const SelectScope font(entry.hDC, Font());
+    SetBkMode(entry.hDC, TRANSPARENT);
+    SetTextColor(entry.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT));
+    DrawText(entry.hDC, EntryName(index).CStr(), -1, &caption, kTextFormat);
+}
