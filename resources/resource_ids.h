@@ -158,6 +158,35 @@
 // Bitmaps of the display libraries.
 #define IDB_MENU_BAR 158  // Two images of 16 units: 0 cancel, 1 ok. Mask COLORREF 0xC6CFDE.
 #define IDB_PAGE_LIST 159 // Twelve images of 32 units, one per page. Mask COLORREF 0x00FF00.
+#define IDB_ARROWS 213    // 20 by 12 units: step down, step up. Mask COLORREF 0x0000FF.
+
+// Bitmaps of the display libraries: the dashboard's symbols, each 12 by 12 units, on white and
+// never white where they are drawn. The check boxes are on COLORREF 0x0000FF, the tab arrows on
+// COLORREF 0x00FF00.
+#define IDB_SYMBOL_NOTE 290
+#define IDB_SYMBOL_REGENERATED 291
+#define IDB_SYMBOL_REMINDER 287
+#define IDB_SYMBOL_HIGH_IMPORTANCE 292
+#define IDB_SYMBOL_LOW_IMPORTANCE 293
+#define IDB_SYMBOL_RECURRING 289
+#define IDB_SYMBOL_PRIVATE 286
+#define IDB_SYMBOL_LINK 294
+#define IDB_SYMBOL_ATTENDEES 288
+#define IDB_SYMBOL_ACTIVE_TASK 296
+#define IDB_SYMBOL_ALLDAY_APPT 295
+#define IDB_SYMBOL_APPT_COUNTER 297
+#define IDB_SYMBOL_TASK_COUNTER 298
+#define IDB_SYMBOL_MAIL_COUNTER 299
+#define IDB_SYMBOL_NOTES_COUNTER 319
+#define IDB_SYMBOL_CONTACTS_COUNTER 339
+#define IDB_SYMBOL_TASK_CHECKED 190
+#define IDB_SYMBOL_TASK_NOT_CHECKED 189
+#define IDB_SYMBOL_ANNIVERSARY 282
+#define IDB_SYMBOL_BIRTHDAY 283
+#define IDB_SYMBOL_TABS_LEFT 269
+#define IDB_SYMBOL_TABS_RIGHT 270
+#define IDB_SYMBOL_CATEGORY 321
+#define IDB_SYMBOL_ATTACHED_ICON 323
 
 // Resources of the program itself.
 #define IDI_PROGRAM 1557

@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "resource_ids.h"
@@ -26,6 +25,23 @@ struct Strip {
 };
 constexpr Strip kPageListStrip = {IDB_PAGE_LIST, 12, 32, 0x00FF00};
 constexpr Strip kMenuBarStrip = {IDB_MENU_BAR, 2, 16, 0xC6CFDE};
+
+constexpr COLORREF kWhite = 0xFFFFFF;
+constexpr COLORREF kRed = 0x0000FF;
+constexpr COLORREF kGreen = 0x00FF00;
+// The dashboard's symbols by their numbers, which the dashboard knows too.
+constexpr struct {
+    UINT id;
+    COLORREF clear;
+} kSymbols[] = {{290, kWhite}, {291, kWhite}, {287, kWhite}, {292, kWhite}, {293, kWhite},
+                {289, kWhite}, {286, kWhite}, {294, kWhite}, {288, kWhite}, {296, kWhite},
+                {295, kWhite}, {297, kWhite}, {298, kWhite}, {299, kWhite}, {319, kWhite},
+                {339, kWhite}, {190, kRed},   {189, kRed},   {282, kWhite}, {283, kWhite},
+                {269, kGreen}, {270, kGreen}, {321, kWhite}, {323, kWhite}};
+constexpr struct {
+    const wchar_t* file;
+    int scale;
+} kLibraries[] = {{L"LowDpiRes.dll", 1}, {L"HighDpiRes.dll", 2}};
 
 // The pixels of a library's bitmap; empty when it is not there or not of 24 bits.
 class Picture {
@@ -99,9 +115,7 @@ int Redness(const std::vector<COLORREF>& image, COLORREF mask) {
 }
 
 TEST(DisplayLibraries, HoldTheirArtAtTheirDensity) {
-    const std::pair<const wchar_t*, int> libraries[] = {{L"LowDpiRes.dll", 1},
-                                                        {L"HighDpiRes.dll", 2}};
-    for (const auto& [file, scale] : libraries) {
+    for (const auto& [file, scale] : kLibraries) {
         SCOPED_TRACE(scale);
         const UniqueModule library(LoadLibraryW((kInstallFolder + file).c_str()));
         ASSERT_TRUE(library);
@@ -112,6 +126,45 @@ TEST(DisplayLibraries, HoldTheirArtAtTheirDensity) {
         const Picture menuBar(library.Get(), IDB_MENU_BAR);
         EXPECT_GT(Redness(menuBar.Image(0), kMenuBarStrip.mask), 0);
         EXPECT_LT(Redness(menuBar.Image(1), kMenuBarStrip.mask), 0);
+    }
+}
+
+TEST(DisplayLibraries, HoldEverySymbolOnceAndTheArrows) {
+    for (const auto& [file, scale] : kLibraries) {
+        const UniqueModule library(LoadLibraryW((kInstallFolder + file).c_str()));
+        ASSERT_TRUE(library);
+        const int size = 12 * scale;
+        std::set<std::vector<COLORREF>> images;
+        for (const auto& [id, clear] : kSymbols) {
+            SCOPED_TRACE(testing::Message() << id << " at " << scale);
+            const Picture picture(library.Get(), id);
+            ASSERT_EQ(picture.Width(), size);
+            ASSERT_EQ(picture.Height(), size);
+            const std::vector<COLORREF> image = picture.Image(0);
+            EXPECT_EQ(image[0], clear);
+            EXPECT_LT(std::count(image.begin(), image.end(), clear), size * size * 4 / 5)
+                << "hardly anything is drawn";
+            // Edges that fade into white are right on white alone.
+            EXPECT_TRUE(clear == kWhite ||
+                        std::none_of(image.begin(), image.end(), [mask = clear](COLORREF colour) {
+                            return IsFringe(colour, mask);
+                        }));
+            EXPECT_TRUE(images.insert(image).second) << "the same as a symbol before it";
+        }
+
+        const Picture arrows(library.Get(), IDB_ARROWS);
+        ASSERT_EQ(arrows.Width(), 20 * scale);
+        ASSERT_EQ(arrows.Height(), 12 * scale);
+        // The left one points left, the right one right, and nothing joins them.
+        const int middle = 6 * scale;
+        EXPECT_EQ(arrows.At(0, 0), kRed);
+        EXPECT_EQ(arrows.At(10 * scale, middle), kRed);
+        EXPECT_NE(arrows.At(3 * scale, middle), kRed);
+        EXPECT_EQ(arrows.At(3 * scale, 2 * scale), kRed);
+        EXPECT_NE(arrows.At(7 * scale, 3 * scale), kRed);
+        EXPECT_NE(arrows.At(16 * scale, middle), kRed);
+        EXPECT_EQ(arrows.At(16 * scale, 2 * scale), kRed);
+        EXPECT_NE(arrows.At(12 * scale, 3 * scale), kRed);
     }
 }
 
