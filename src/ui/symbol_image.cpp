@@ -4,7 +4,8 @@
 #include "shell/services/handles.h"
 
 namespace {
-constexpr DWORD kPatternOrTarget = 0x00FA0089; // The raster operation "pattern or target".
+constexpr COLORREF kClear = RGB(255, 255, 255); // What symbols have where they are not drawn.
+constexpr DWORD kPatternOrTarget = 0x00FA0089;  // The raster operation "pattern or target".
 
 // Every second pixel turns white.
 void Dim(HDC dc, int x, int y, int width, int height) {
@@ -28,6 +29,6 @@ void DrawSymbol(HDC dc, UINT bitmap, const RECT& place, bool isDimmed) {
     const int x = (place.left + place.right - size.bmWidth) / 2;
     const int y = (place.top + place.bottom - size.bmHeight) / 2;
     TransparentImage(dc, x, y, size.bmWidth, size.bmHeight, symbol.Get(), 0, 0, size.bmWidth,
-                     size.bmHeight, RGB(255, 0, 255));
+                     size.bmHeight, kClear);
     if (isDimmed) Dim(dc, x, y, size.bmWidth, size.bmHeight);
 }
