@@ -1,0 +1,130 @@
+#include "preview/item_renderer.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "preview/appointment_texts.h"
+#include "preview/clock.h"
+#include "preview/line_painter.h"
+#include "shell/services/scaling.h"
+
+namespace {
+
+constexpr int kSpacing = 1;       // Units from an item to the next.
+constexpr int kSecondTextGap = 4; // Units between the subject and a text behind it.
+constexpr COLORREF kBuiltInBusy = RGB(44, 77, 156);
+
+int ScaleAcross(int units) {
+    return Scale(units);
+}
+
+ColumnSettings ColumnsOf(const SettingsStore& store) {
+    return {.format = DisplayFormatOf(store.ApptDisplayFormat.value),
+            .appointmentIcons = {store.ApptLeftAlignIcon1.value, store.ApptLeftAlignIcon2.value},
+            .taskIcons = {store.TaskLeftAlignIcon1.value, store.TaskLeftAlignIcon2.value},
+            .indentItems = store.IndentItems.value == 1,
+            .leadingRects = store.LeadingRects.value != 0};
+}
+
+AppointmentTexts TextsOf(const SettingsStore& store, uint32_t format, const PreviewItem& item,
+                         int day) {
+    const wchar_t* picture =
+        TimePicture(store.twelveHourClock, store.Force2DigitsTImeFrmt.value == 1);
+    const WideString start = TimeOfDayText(item.start, picture);
+    const WideString end = TimeOfDayText(item.end, picture);
+    const AppointmentTime time{.start = item.start,
+                               .end = item.end,
+                               .day = day,
+                               .humanHours = store.HumanTime.value,
+                               .startText = start.CStr(),
+                               .endText = end.CStr()};
+    return TextsOfAppointment(format, item.subject, item.location, item.allDay,
+                              TimeText(time, TimeFormOf(format)));
+}
+
+// A place of its own at the line's end, of at most half of what the subject has: gives where the
+// subject then ends.
+int DrawBehindSubject(const LinePainter& painter, const LineLayout& layout, const WideString& text,
+                      int textWidth) {
+    if (text.IsEmpty()) return layout.subjectEnd;
+    const int width = std::min(textWidth, (layout.subjectEnd - layout.subject) / 2);
+    painter.Text(text, layout.subjectEnd - width, layout.subjectEnd);
+    return layout.subjectEnd - width - Scale(kSecondTextGap);
+}
+
+COLORREF BusyColour(const SettingsStore& store) {
+    const uint32_t colour = store.ClrStatusBusy.value;
+    return colour == kNoColour ? kBuiltInBusy : colour & 0xFFFFFF;
+}
+
+} // namespace
+
+int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const PreviewItem& item,
+                              int day) {
+    const ColumnSettings columns = ColumnsOf(store_);
+    const TextStyle style = TextStyleOf(store_, store_.FontCalApptBusy);
+    const SelectScope font(dc, font_.Get(style.font));
+    const int lineHeight = LineHeight(dc);
+    const int height = lineHeight * (HasSecondLine(columns.format) ? 2 : 1) + ScaleY(kSpacing);
+    if (pass == DrawingPass::Measure) return height;
+
+    const AppointmentTexts texts = TextsOf(store_, columns.format, item, day);
+    const uint32_t icons = store_.ClrApptRightIcons.value & kAppointmentIcons;
+    const LineSpace space{
+        .left = place.left, .right = place.right, .rightIcons = std::popcount(icons)};
+    const LineLayout layout = LayOutAppointment(space, columns, TimeColumnFor(columns, style.font),
+                                                TextWidth(dc, texts.label), ScaleAcross);
+    const LinePainter painter(dc, style, place.top);
+    if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, BusyColour(store_));
+    painter.LeftIconRow(symbols_, layout.leftIcons, columns.appointmentIcons);
+    painter.RightIconRow(symbols_, place.right, icons);
+    painter.Text(texts.label, layout.label, layout.subject);
+    int subjectEnd = layout.subjectEnd;
+    if (HasSecondLine(columns.format)) {
+        const LinePainter below(dc, style, place.top + lineHeight);
+        below.Text(texts.second, layout.subject, place.right);
+    } else {
+        subjectEnd = DrawBehindSubject(painter, layout, texts.second, TextWidth(dc, texts.second));
+    }
+    painter.Text(texts.subject, layout.subject, subjectEnd);
+    return height;
+}
+
+int ItemRenderer::Task(DrawingPass pass, HDC dc, const RECT& place, const PreviewItem& item,
+                       const LeftIcons& leftIcons, uint32_t rightIcons) {
+    const TextStyle style = TextStyleOf(store_, store_.FontTskNoDue);
+    const SelectScope font(dc, font_.Get(style.font));
+    const int height = LineHeight(dc) + ScaleY(kSpacing);
+    if (pass == DrawingPass::Measure) return height;
+
+    const uint32_t icons = rightIcons & kTaskIcons;
+    const LineSpace space{
+        .left = place.left, .right = place.right, .rightIcons = std::popcount(icons)};
+    const LineLayout layout = LayOutTask(space, store_.IndentItems.value == 1, leftIcons,
+                                         TextWidth(dc, item.label), ScaleAcross);
+    const LinePainter painter(dc, style, place.top);
+    painter.LeftIconRow(symbols_, layout.leftIcons, leftIcons);
+    painter.RightIconRow(symbols_, place.right, icons);
+    painter.Text(item.label, layout.label, layout.subject);
+    painter.Text(item.subject, layout.subject, layout.subjectEnd);
+    return height;
+}
+
+int ItemRenderer::TimeColumnFor(const ColumnSettings& columns, const LOGFONT& font) {
+    if (timeColumn_ >= 0 && columns == timeColumnSettings_ && IsSameFont(font, timeColumnFont_)) {
+        return timeColumn_;
+    }
+    int widest = 0;
+    if (const wchar_t* text = WidestTimeText(columns.format)) {
+        HDC screen = GetDC(nullptr);
+        {
+            const SelectScope scope(screen, font_.Get(font));
+            widest = TextWidth(screen, text);
+        }
+        ReleaseDC(nullptr, screen);
+    }
+    timeColumn_ = TimeColumn(columns, widest, ScaleAcross);
+    timeColumnSettings_ = columns;
+    timeColumnFont_ = font;
+    return timeColumn_;
+}

@@ -1,0 +1,70 @@
+#include "preview/text_style.h"
+
+#include <algorithm>
+#include <cstring>
+#include <cwchar>
+#include <iterator>
+
+#include "shell/services/scaling.h"
+
+namespace {
+
+constexpr uint32_t kShadowModes = 5;
+constexpr COLORREF kBuiltInShadow = RGB(192, 192, 192);
+constexpr BYTE kClearTypeQuality = 5;
+
+// The registry may hold any number. Letters higher than a sample are never seen whole, and take the
+// platform long to make.
+LONG SafeHeight(uint32_t height) {
+    const LONG highest = ScaleY(42);
+    return std::clamp(static_cast<LONG>(height), -highest, highest);
+}
+
+LONG SafeWeight(LONG weight) {
+    return std::clamp(weight, LONG{0}, LONG{1000});
+}
+
+LOGFONT FontOf(const SettingsStore& store, const FontSetting& own) {
+    LOGFONT font{};
+    font.lfWeight = FW_NORMAL;
+    font.lfHeight = SafeHeight(store.FontGnrlSize.value);
+    if (store.FontGnrlUseAdvncd.value != 0) {
+        font = own.logFont;
+        font.lfHeight = SafeHeight(static_cast<uint32_t>(own.logFont.lfHeight));
+        font.lfWeight = SafeWeight(own.logFont.lfWeight);
+    }
+    // The settings themselves, since the fonts took them when they were loaded.
+    font.lfQuality =
+        store.ForceClearType.value != 0 ? kClearTypeQuality : static_cast<BYTE>(DEFAULT_QUALITY);
+    std::memset(font.lfFaceName, 0, sizeof font.lfFaceName);
+    std::wcsncpy(font.lfFaceName, store.FontFaceToUse.value.CStr(), std::size(font.lfFaceName) - 1);
+    return font;
+}
+
+// The high byte of a colour would have another meaning to the platform.
+COLORREF ColourOr(uint32_t value, COLORREF fallback) {
+    return value == kNoColour ? fallback : value & 0xFFFFFF;
+}
+
+} // namespace
+
+TextStyle TextStyleOf(const SettingsStore& store, const FontSetting& own) {
+    const uint32_t shadow = store.UseShadowColor.value;
+    return {.font = FontOf(store, own),
+            .colour = ColourOr(own.colour.value,
+                               ColourOr(store.GeneralFontColor.value, store.systemColours[0])),
+            .hasShadow = shadow > 0 && shadow < kShadowModes,
+            .shadowColour = ColourOr(store.ShadowFontColor.value, kBuiltInShadow)};
+}
+
+bool IsSameFont(const LOGFONT& left, const LOGFONT& right) {
+    return std::memcmp(&left, &right, sizeof left) == 0;
+}
+
+HFONT CachedFont::Get(const LOGFONT& description) {
+    if (!font_ || !IsSameFont(description_, description)) {
+        font_.Reset(CreateFontIndirect(&description));
+        description_ = description;
+    }
+    return font_.Get();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <windows.h>
+
+#include "settings/settings_store.h"
+#include "shell/services/handles.h"
+
+// How a kind of item writes its texts, by the font and colour settings.
+struct TextStyle {
+    LOGFONT font{};
+    COLORREF colour = 0;
+    bool hasShadow = false;
+    COLORREF shadowColour = 0;
+};
+
+// `own` is the item's own font: its colour always counts, its shape only where every item has its
+// own font.
+[[nodiscard]] TextStyle TextStyleOf(const SettingsStore& store, const FontSetting& own);
+
+[[nodiscard]] bool IsSameFont(const LOGFONT& left, const LOGFONT& right);
+
+// A font that is made anew only when another one is asked for.
+class CachedFont {
+  public:
+    // Belongs to this object; null when the platform cannot make it.
+    [[nodiscard]] HFONT Get(const LOGFONT& description);
+
+  private:
+    LOGFONT description_{};
+    UniqueFont font_;
+};
