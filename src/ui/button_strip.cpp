@@ -154,7 +154,7 @@ void ButtonStrip::OnDestroy() {
 
 void ButtonStrip::MeasureEntry(MEASUREITEMSTRUCT&) const {}
 
-void ButtonStrip::DrawEntry(const DRAWITEMSTRUCT&) const {}
+void ButtonStrip::DrawEntry(const DRAWITEMSTRUCT&) {}
 
 LRESULT ButtonStrip::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {

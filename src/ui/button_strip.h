@@ -36,14 +36,14 @@ class ButtonStrip {
     [[nodiscard]] virtual bool IsOffered(int button) const = 0;
     // What the tooltip says; empty for none.
     [[nodiscard]] virtual WideString NameOf(int button) const = 0;
-    virtual void DrawButton(HDC dc, int button, const RECT& place) const = 0;
+    virtual void DrawButton(HDC dc, int button, const RECT& place) = 0;
     // The strip, and with it this object, may be gone when it returns.
     virtual void Press(int button) = 0;
     // Left or Right was pressed: goes to the next button.
     virtual void Step(bool forward);
     // An entry of a menu that the strip owns is to be measured or drawn.
     virtual void MeasureEntry(MEASUREITEMSTRUCT& entry) const;
-    virtual void DrawEntry(const DRAWITEMSTRUCT& entry) const;
+    virtual void DrawEntry(const DRAWITEMSTRUCT& entry);
 
     // In pixels of the strip's window.
     [[nodiscard]] RECT PlaceOf(int button) const;

@@ -5,10 +5,16 @@
 #include <cstdint>
 #include <span>
 
-#include "settings/icon_flags.h"
+#include "preview/symbol_images.h"
 #include "ui/button_strip.h"
 #include "ui/controls.h"
 #include "ui/icon_marker.h"
+
+// An icon by its flag, which is also how its image is found, and the text id of its caption.
+struct IconFlag {
+    uint32_t flag;
+    UINT caption;
+};
 
 enum class IconChoice : uint8_t {
     One, // One flag or none, from a drop-down menu; the page is sent kMessageToolbarMenuSelect.
@@ -54,22 +60,24 @@ class IconChooser final : private ButtonStrip {
     [[nodiscard]] int ButtonCount() const override;
     [[nodiscard]] bool IsOffered(int button) const override;
     [[nodiscard]] WideString NameOf(int button) const override;
-    void DrawButton(HDC dc, int button, const RECT& place) const override;
+    void DrawButton(HDC dc, int button, const RECT& place) override;
     void Press(int button) override;
     void Step(bool forward) override;
     void MeasureEntry(MEASUREITEMSTRUCT& entry) const override;
-    void DrawEntry(const DRAWITEMSTRUCT& entry) const override;
+    void DrawEntry(const DRAWITEMSTRUCT& entry) override;
 
     // The entries of the drop-down menu: 0 is none, 1 the first flag.
     [[nodiscard]] int ChosenEntry() const;
     [[nodiscard]] WideString EntryName(int entry) const;
-    void ShowMarker() const;
+    [[nodiscard]] uint32_t EntryFlag(int entry) const;
     void ChooseFromMenu();
     void ChooseEntry(int entry);
+    void DrawIcon(HDC dc, uint32_t flag, const RECT& place);
     void DrawDropDown(HDC dc, const RECT& place) const;
 
     IconChooserKind kind_;
     HWND label_ = nullptr;
+    SymbolImages images_;
     IconMarker marker_; // Of a chooser of one flag.
     uint32_t value_ = 0;
     uint32_t withdrawn_ = 0;
