@@ -77,8 +77,9 @@ void IconChooser::Place(const ControlPlace& label, const ControlPlace& buttons) 
     if (label_) MoveWindow(label_, label.x, label.y, label.width, label.height, TRUE);
     if (!Window()) return;
     MoveWindow(Window(), buttons.x, buttons.y, buttons.width, buttons.height, TRUE);
-    const int side = buttons.height;
-    if (kind_.choice == IconChoice::One) marker_.Place({0, 0, side, side});
+    const int frame = Scale(1);
+    const int side = buttons.height - 2 * frame;
+    if (kind_.choice == IconChoice::One) marker_.Place({frame, frame, side, side});
 }
 
 void IconChooser::Withdraw(uint32_t flag) {
@@ -128,30 +129,36 @@ void IconChooser::DrawIcon(HDC dc, uint32_t flag, const RECT& place) {
                  (place.top + place.bottom - ScaleY(kSymbolSize)) / 2, flag);
 }
 
-void IconChooser::DrawButton(HDC dc, int button, const RECT& place) {
+void IconChooser::DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) {
     if (kind_.choice == IconChoice::One) {
-        DrawDropDown(dc, place);
+        DrawDropDown(dc, place, hasFocus);
         return;
     }
     const uint32_t flag = EntryFlag(button + 1);
     if (value_ & flag) DrawFrame(dc, place, kChosenFrame, kChosenFace);
     DrawIcon(dc, flag, place);
     if (!IsOffered(button)) Dim(dc, place);
+    RECT focus = place;
+    InflateRect(&focus, -Scale(2), -ScaleY(2));
+    if (hasFocus) DrawFocusRect(dc, &focus);
 }
 
-void IconChooser::DrawDropDown(HDC dc, const RECT& place) const {
+// Like a drop-down list: what is chosen, behind the marker, and an arrow.
+void IconChooser::DrawDropDown(HDC dc, const RECT& place, bool hasFocus) const {
     DrawFrame(dc, place, kFrame, RGB(255, 255, 255));
     RECT arrow = place;
     arrow.left = place.right - Scale(kArrowWidth);
     DrawArrow(dc, arrow);
-    RECT caption = place;
-    caption.left = place.bottom + Scale(kGap); // Behind the marker, which is a square.
-    caption.right = arrow.left;
+    RECT chosen{place.bottom, Scale(2), arrow.left, place.bottom - Scale(2)};
+    if (hasFocus) FillRect(dc, &chosen, GetSysColorBrush(COLOR_HIGHLIGHT));
+    chosen.left += Scale(kGap);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(hasFocus ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     const SelectScope font(dc, Font());
     const WideString name = NameOf(0);
     // A narrow button shows the icon alone.
-    if (TextWidth(dc, name) <= caption.right - caption.left)
-        DrawText(dc, name.CStr(), -1, &caption, kTextFormat);
+    if (TextWidth(dc, name) <= chosen.right - chosen.left)
+        DrawText(dc, name.CStr(), -1, &chosen, kTextFormat);
 }
 
 void IconChooser::Press(int button) {
@@ -162,15 +169,6 @@ void IconChooser::Press(int button) {
     value_ ^= EntryFlag(button + 1);
     Redraw();
     SendMessage(GetParent(Window()), kMessageToolbarClick, 0, kind_.code);
-}
-
-void IconChooser::Step(bool forward) {
-    if (kind_.choice == IconChoice::Set) {
-        ButtonStrip::Step(forward);
-        return;
-    }
-    const int entry = ChosenEntry() + (forward ? 1 : -1);
-    if (entry >= 0 && entry <= static_cast<int>(kind_.flags.size())) ChooseEntry(entry);
 }
 
 void IconChooser::ChooseFromMenu() {

@@ -31,9 +31,9 @@ struct IconChooserKind {
 };
 
 // Chooses among flags that are shown as icons: a label, and a button for each flag or one button
-// that shows the chosen icon and drops a menu of all. By keys: Left and Right go through the
-// buttons or the entries, Enter presses or drops the menu. Holding the pen on a button shows its
-// caption. The object must outlive its windows, which belong to the page.
+// that shows the chosen icon and drops a menu of all. Holding the pen on a button shows its
+// caption. Left and Right do not choose as on a drop-down list: passing over an icon would already
+// withdraw it elsewhere. The object must outlive its windows, which belong to the page.
 class IconChooser final : private ButtonStrip {
   public:
     // In units: a chooser's height, its distance to the one below, and the width of a button.
@@ -60,9 +60,8 @@ class IconChooser final : private ButtonStrip {
     [[nodiscard]] int ButtonCount() const override;
     [[nodiscard]] bool IsOffered(int button) const override;
     [[nodiscard]] WideString NameOf(int button) const override;
-    void DrawButton(HDC dc, int button, const RECT& place) override;
+    void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) override;
     void Press(int button) override;
-    void Step(bool forward) override;
     void MeasureEntry(MEASUREITEMSTRUCT& entry) const override;
     void DrawEntry(const DRAWITEMSTRUCT& entry) override;
 
@@ -73,7 +72,7 @@ class IconChooser final : private ButtonStrip {
     void ChooseFromMenu();
     void ChooseEntry(int entry);
     void DrawIcon(HDC dc, uint32_t flag, const RECT& place);
-    void DrawDropDown(HDC dc, const RECT& place) const;
+    void DrawDropDown(HDC dc, const RECT& place, bool hasFocus) const;
 
     IconChooserKind kind_;
     HWND label_ = nullptr;

@@ -22,7 +22,7 @@ IconMarker::~IconMarker() {
 bool IconMarker::Create(HWND parent, SymbolImages& images) {
     RegisterWindowClass(application.instance, WindowProc, nullptr, kClass, WHITE_BRUSH);
     images_ = &images;
-    window_ = CreateControl(parent, kClass, L"", WS_BORDER, 0, {}, nullptr);
+    window_ = CreateControl(parent, kClass, L"", 0, 0, {}, nullptr);
     if (!window_) return false;
     SetWindowLongPtr(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     return true;

@@ -7,7 +7,7 @@
 #include "preview/symbol_images.h"
 #include "ui/controls.h"
 
-// A small framed window that shows which icon is chosen. Taps on it are its parent's.
+// A small window that shows which icon is chosen. Taps on it are its parent's.
 class IconMarker {
   public:
     IconMarker() = default;
@@ -20,7 +20,7 @@ class IconMarker {
     bool Create(HWND parent, SymbolImages& images);
     // In pixels of the parent.
     void Place(const ControlPlace& place) const;
-    // An icon's flag; what is none shows an empty frame.
+    // An icon's flag; what is none shows nothing.
     void Show(uint32_t flag);
 
   private:
