@@ -278,13 +278,13 @@ TEST_F(TasksPageTest, AHeldButtonNamesItsIcon) {
     Close();
 }
 
-// How many pixels are not white in a band of a sample's height, as wide as the page.
-int DrawnPixels(HWND window, int top) {
+// How many pixels of a band as wide as the page are not white.
+int DrawnPixels(HWND window, int top, int bottom) {
     RECT client{};
     GetClientRect(window, &client);
     HDC dc = GetDC(window);
     int drawn = 0;
-    for (int y = top; y < top + ScaleY(42); ++y) {
+    for (int y = top; y < bottom; ++y) {
         for (int x = 0; x < client.right; ++x)
             drawn += GetPixel(dc, x, y) != RGB(255, 255, 255);
     }
@@ -297,18 +297,19 @@ TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     RECT strip{};
     GetWindowRect(GetDlgItem(window, kRight), &strip);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&strip), 2);
-    const int top = strip.bottom + ScaleY(8);
+    const int bottom = strip.bottom + ScaleY(8 + 42);
+    const auto drawn = [&] { return DrawnPixels(window, bottom - ScaleY(30), bottom); };
     UpdateWindow(window);
-    const int plain = DrawnPixels(window, top);
+    const int plain = drawn();
     EXPECT_GT(plain, 0);
     TapRight(0);
-    const int oneIcon = DrawnPixels(window, top);
+    const int oneIcon = drawn();
     EXPECT_GT(oneIcon, plain);
     ChooseLeft(kLeft1, 2);
-    EXPECT_GT(DrawnPixels(window, top), oneIcon);
-    ShowTab(0);
+    EXPECT_GT(drawn(), oneIcon);
+    ShowTab(3);
     PumpMessages();
-    EXPECT_EQ(DrawnPixels(window, top + ScaleY(80)), 0) << "the sample stands on its own tab";
+    EXPECT_EQ(drawn(), 0) << "the sample stands on its own tab alone";
     Close();
 }
 
