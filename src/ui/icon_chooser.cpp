@@ -67,8 +67,8 @@ void IconChooser::Create(HWND page, HFONT font, const IconChooserKind& kind, uin
             all |= flag.flag;
         value_ &= all;
     }
-    label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(),
-                           SS_RIGHT | SS_CENTERIMAGE, kind.labelId, {}, font);
+    label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(), SS_RIGHT, kind.labelId,
+                           {}, font);
     if (!CreateStrip(page, kind.id, font) || kind.choice == IconChoice::Set) return;
     if (marker_.Create(Window(), images_)) marker_.Show(EntryFlag(ChosenEntry()));
 }
@@ -181,8 +181,8 @@ void IconChooser::ChooseFromMenu() {
     HWND window = Window();
     RECT place{};
     GetWindowRect(window, &place);
-    const int command = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN,
-                                         place.left, place.bottom, window, nullptr);
+    const int command =
+        TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD, place.left, place.bottom, window, nullptr);
     // While the menu was open the page may have been closed, and this chooser with it.
     if (command > 0 && IsWindow(window)) ChooseEntry(command - 1);
 }
