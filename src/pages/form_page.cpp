@@ -5,10 +5,21 @@
 namespace {
 constexpr int kTopMargin = 8;
 constexpr int kPathLimit = 260; // Characters.
+constexpr int kTextLimit = 255;
 // The parts of a path row, from its first id.
 constexpr UINT kPathEdit = 1;
 constexpr UINT kPathClear = 2;
 constexpr UINT kPathBrowse = 3;
+
+SIZE ClientSize(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {client.right, client.bottom};
+}
+
+bool HasRow(HWND window, const FormRow& row) {
+    return GetDlgItem(window, static_cast<int>(row.id)) != nullptr;
+}
 
 void FillChoices(HWND combo, std::span<const UINT> choices) {
     for (const UINT text : choices) {
@@ -26,11 +37,9 @@ UINT FormPage::GetTabTitleId(int index) const {
 }
 
 void FormPage::CreateControls(HWND window) {
-    for (size_t tab = 0; tab < tables_.tabs.size(); ++tab) {
-        RowLayout layout(window, normalFont, kTopMargin);
-        for (const FormRow& row : tables_.rows) {
-            if (row.tab == tab && (!row.exists || row.exists())) CreateRow(window, row, layout);
-        }
+    PlaceRows(window, [](const FormRow& row) { return !row.exists || row.exists(); });
+    for (const FormRow& row : tables_.rows) {
+        if (HasRow(window, row)) LoadRow(window, row);
     }
     // Everything starts hidden; showing a tab is the base class's next step.
     for (const FormTab& tab : tables_.tabs) {
@@ -39,26 +48,69 @@ void FormPage::CreateControls(HWND window) {
     ApplyRules(window);
 }
 
-void FormPage::CreateRow(HWND window, const FormRow& row, RowLayout& layout) {
+LRESULT FormPage::Layout(HWND window) {
+    const SIZE size = ClientSize(window);
+    if (size.cx != placedFor_.cx || size.cy != placedFor_.cy)
+        PlaceRows(window, [window](const FormRow& row) { return HasRow(window, row); });
+    return 0;
+}
+
+template <typename Wanted>
+void FormPage::PlaceRows(HWND window, Wanted isWanted) {
+    placedFor_ = ClientSize(window);
+    for (size_t tab = 0; tab < tables_.tabs.size(); ++tab) {
+        RowLayout layout(window, normalFont, kTopMargin);
+        for (const FormRow& row : tables_.rows) {
+            if (row.tab != tab || !isWanted(row)) continue;
+            PlaceRow(window, row, layout);
+            layout.Skip(row.gapAfter);
+        }
+    }
+}
+
+void FormPage::PlaceRow(HWND window, const FormRow& row, RowLayout& layout) {
     const WideString text = LanguageText(row.text);
     switch (row.kind) {
     case RowKind::Check:
-        layout.AddCheck(row.id, text.CStr(), (settingsStore.*row.setting).value == 1);
+        layout.AddCheck(row.id, text.CStr());
         break;
-    case RowKind::Choice: {
-        HWND combo = layout.AddCombo(row.labelId, text.CStr(), row.id);
-        FillChoices(combo, row.choices);
-        SelectIndex(combo, (settingsStore.*row.setting).value);
+    case RowKind::Choice:
+        layout.AddCombo(row.labelId, text.CStr(), row.id);
         break;
-    }
     case RowKind::Path:
-        layout.AddPath(row.id, text.CStr(), (settingsStore.*row.path).value.CStr(), kPathLimit);
+        layout.AddPath(row.id, text.CStr(), kPathLimit);
+        break;
+    case RowKind::Text:
+        layout.AddText(row.column, row.labelId, text.CStr(), row.id, kTextLimit);
         break;
     case RowKind::Custom:
-        CreateCustomRow(window, row, layout);
+        PlaceCustomRow(window, row, layout);
         break;
     }
-    layout.Skip(row.gapAfter);
+}
+
+void FormPage::LoadRow(HWND window, const FormRow& row) {
+    HWND control = GetDlgItem(window, static_cast<int>(row.id));
+    switch (row.kind) {
+    case RowKind::Check:
+        SendMessage(control, BM_SETCHECK, (settingsStore.*row.setting).value == 1, 0);
+        break;
+    case RowKind::Choice:
+        FillChoices(control, row.choices);
+        if (row.fillChoices) row.fillChoices(control);
+        SelectIndex(control, (settingsStore.*row.setting).value);
+        break;
+    case RowKind::Path:
+        SetDlgItemText(window, static_cast<int>(row.id + kPathEdit),
+                       (settingsStore.*row.path).value.CStr());
+        break;
+    case RowKind::Text:
+        SetWindowText(control, (settingsStore.*row.path).value.CStr());
+        break;
+    case RowKind::Custom:
+        LoadCustomRow(window, row);
+        break;
+    }
 }
 
 void FormPage::ShowTab(HWND window, int showCommand) {
@@ -72,7 +124,7 @@ void FormPage::SaveValues(HWND window, WPARAM) {
     ShowTab(window, SW_HIDE);
     for (const FormRow& row : tables_.rows) {
         // What the platform offers may have changed since: only what the page shows is saved.
-        if (GetDlgItem(window, static_cast<int>(row.id))) SaveRow(window, row);
+        if (HasRow(window, row)) SaveRow(window, row);
     }
 }
 
@@ -87,6 +139,11 @@ void FormPage::SaveRow(HWND window, const FormRow& row) {
     case RowKind::Path: {
         HWND edit = GetDlgItem(window, static_cast<int>(row.id + kPathEdit));
         (settingsStore.*row.path).Set(ControlText(edit, kPathLimit).CStr());
+        break;
+    }
+    case RowKind::Text: {
+        HWND edit = GetDlgItem(window, static_cast<int>(row.id));
+        (settingsStore.*row.path).Set(ControlText(edit, kTextLimit).CStr());
         break;
     }
     case RowKind::Custom:
@@ -131,7 +188,9 @@ void FormPage::ApplyRules(HWND window) const {
     }
 }
 
-void FormPage::CreateCustomRow(HWND, const FormRow&, RowLayout&) {}
+void FormPage::PlaceCustomRow(HWND, const FormRow&, RowLayout&) {}
+
+void FormPage::LoadCustomRow(HWND, const FormRow&) {}
 
 void FormPage::SaveCustomRow(HWND, const FormRow&) {}
 

@@ -14,7 +14,8 @@ enum class RowKind : uint8_t {
     Check,  // A box for a number that is 1 or 0.
     Choice, // A drop-down list that stores the index of its entry.
     Path,   // A path with a button to clear it and one to browse; four control ids.
-    Custom, // Made and saved by the page.
+    Text,   // A text in one of two columns.
+    Custom, // Placed, loaded and saved by the page.
 };
 
 struct FormTab {
@@ -29,12 +30,14 @@ struct FormRow {
     RowKind kind;
     UINT labelId = 0; // The label's control; none for a box.
     UINT id;          // The control that holds the value; for a path the first of the four.
-    UINT text;
+    UINT text = 0;    // The label or caption; a custom row may have its own.
     std::span<const UINT> choices = {};
+    void (*fillChoices)(HWND combo) = nullptr; // Adds entries that are no texts of the library.
     DwordSetting SettingsStore::*setting = nullptr;
-    StringSetting SettingsStore::*path = nullptr;
-    bool (*exists)() = nullptr; // Null: always.
-    int8_t gapAfter = 0;        // Units between this row and the next beyond the usual pitch.
+    StringSetting SettingsStore::*path = nullptr; // The path or text.
+    uint8_t column = 0;                           // Of a text, from the left.
+    bool (*exists)() = nullptr;                   // Null: always.
+    int8_t gapAfter = 0; // Units between this row and the next beyond the usual pitch.
 };
 
 // Enables the controls with an id in a closed range by the state of others.
@@ -60,20 +63,29 @@ class FormPage : public SettingsPage {
     void ShowTab(HWND window, int showCommand) override;
     void SaveValues(HWND window, WPARAM wParam) override;
     LRESULT OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+    // Places the rows again when the page's size has changed, as when the screen was turned.
+    LRESULT Layout(HWND window) override;
 
   protected:
-    virtual void CreateCustomRow(HWND window, const FormRow& row, RowLayout& layout);
+    // Makes the row's controls at the cursor, or moves those that are there already.
+    virtual void PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout);
+    // Shows the stored value in the row's new controls.
+    virtual void LoadCustomRow(HWND window, const FormRow& row);
     virtual void SaveCustomRow(HWND window, const FormRow& row);
     // A path row's browse button was tapped: `path` gives the one shown and receives the chosen
     // one; false when the user cancels.
     virtual bool BrowsePath(HWND window, const FormRow& row, WideString& path);
 
   private:
-    void CreateRow(HWND window, const FormRow& row, RowLayout& layout);
+    template <typename Wanted>
+    void PlaceRows(HWND window, Wanted isWanted);
+    void PlaceRow(HWND window, const FormRow& row, RowLayout& layout);
+    void LoadRow(HWND window, const FormRow& row);
     void SaveRow(HWND window, const FormRow& row);
     void ApplyRules(HWND window) const;
     [[nodiscard]] const FormRow* PathRowOfButton(UINT id) const;
     void OnPathButton(HWND window, const FormRow& row, UINT id);
 
     FormTables tables_;
+    SIZE placedFor_{}; // The page's size when the rows were placed, in pixels.
 };

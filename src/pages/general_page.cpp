@@ -83,6 +83,22 @@ bool IsScreenWide() {
     return width >= kVgaWidth;
 }
 
+void AddEntry(HWND combo, const wchar_t* text) {
+    SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+}
+
+void AddNumber(HWND combo, int number) {
+    WideString text;
+    text.Format(L"%d", number);
+    AddEntry(combo, text.CStr());
+}
+
+void FillLoadingDelays(HWND combo) {
+    constexpr int kLongest = 5; // Seconds.
+    for (int delay = 0; delay <= kLongest; ++delay)
+        AddNumber(combo, delay);
+}
+
 constexpr FormRow kRows[] = {
     {.tab = 0,
      .kind = RowKind::Choice,
@@ -233,10 +249,11 @@ constexpr FormRow kRows[] = {
      .text = IDS_GENERAL_REMOVE_HIGHLIGHT,
      .setting = &SettingsStore::RemoveHighlight},
     {.tab = 4,
-     .kind = RowKind::Custom,
+     .kind = RowKind::Choice,
      .labelId = kLoadingDelayLabel,
      .id = kLoadingDelay,
      .text = IDS_GENERAL_LOADING_DELAY,
+     .fillChoices = FillLoadingDelays,
      .setting = &SettingsStore::LoadingDelay},
 };
 
@@ -268,16 +285,6 @@ constexpr EnablingRule kRules[] = {
 
 constexpr FormTables kTables{kTabs, kRows, kRules};
 
-void AddEntry(HWND combo, const wchar_t* text) {
-    SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-}
-
-void AddNumber(HWND combo, int number) {
-    WideString text;
-    text.Format(L"%d", number);
-    AddEntry(combo, text.CStr());
-}
-
 void FillHeights(HWND combo, bool withZero, uint32_t current) {
     constexpr int kLowest = 80;
     constexpr int kHighest = 600;
@@ -288,13 +295,6 @@ void FillHeights(HWND combo, bool withZero, uint32_t current) {
     WideString text;
     text.Format(L"%d", static_cast<int>(current));
     SetWindowText(combo, text.CStr());
-}
-
-void FillLoadingDelays(HWND combo, uint32_t current) {
-    constexpr int kLongest = 5;
-    for (int delay = 0; delay <= kLongest; ++delay)
-        AddNumber(combo, delay);
-    SelectIndex(combo, current);
 }
 
 // The name that a language library gives itself; false when it has none.
@@ -321,24 +321,20 @@ void GeneralPage::SaveValues(HWND window, WPARAM wParam) {
         path = L"";
 }
 
-void GeneralPage::CreateCustomRow(HWND, const FormRow& row, RowLayout& layout) {
+void GeneralPage::PlaceCustomRow(HWND, const FormRow& row, RowLayout& layout) {
     const WideString label = LanguageText(row.text);
-    switch (row.id) {
-    case kHeight:
-    case kHeightLandscape:
-        FillHeights(layout.AddEditableCombo(row.labelId, label.CStr(), row.id),
-                    row.id == kHeightLandscape, (settingsStore.*row.setting).value);
-        break;
-    case kLanguage:
-        FillLanguages(layout.AddCombo(row.labelId, label.CStr(), row.id));
-        break;
-    case kLoadingDelay:
-        FillLoadingDelays(layout.AddCombo(row.labelId, label.CStr(), row.id),
-                          (settingsStore.*row.setting).value);
-        break;
-    default:
-        break;
-    }
+    if (row.id == kLanguage)
+        layout.AddCombo(row.labelId, label.CStr(), row.id);
+    else
+        layout.AddEditableCombo(row.labelId, label.CStr(), row.id);
+}
+
+void GeneralPage::LoadCustomRow(HWND window, const FormRow& row) {
+    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
+    if (row.id == kLanguage)
+        FillLanguages(combo);
+    else
+        FillHeights(combo, row.id == kHeightLandscape, (settingsStore.*row.setting).value);
 }
 
 void GeneralPage::FillLanguages(HWND combo) {
@@ -380,23 +376,13 @@ void GeneralPage::SaveLanguage(HWND window, const FormRow& row) {
 
 void GeneralPage::SaveCustomRow(HWND window, const FormRow& row) {
     constexpr int kHeightTextLimit = 256;
-    switch (row.id) {
-    case kHeight:
-    case kHeightLandscape: {
-        const WideString text =
-            ControlText(GetDlgItem(window, static_cast<int>(row.id)), kHeightTextLimit);
-        (settingsStore.*row.setting).Set(NumberFromText(text.CStr()));
-        break;
-    }
-    case kLanguage:
+    if (row.id == kLanguage) {
         SaveLanguage(window, row);
-        break;
-    case kLoadingDelay:
-        (settingsStore.*row.setting).Set(static_cast<uint32_t>(SelectedIndex(window, row.id)));
-        break;
-    default:
-        break;
+        return;
     }
+    const WideString text =
+        ControlText(GetDlgItem(window, static_cast<int>(row.id)), kHeightTextLimit);
+    (settingsStore.*row.setting).Set(NumberFromText(text.CStr()));
 }
 
 bool GeneralPage::BrowsePath(HWND window, const FormRow&, WideString& path) {

@@ -14,7 +14,8 @@ class GeneralPage final : public FormPage {
     void SaveValues(HWND window, WPARAM wParam) override;
 
   protected:
-    void CreateCustomRow(HWND window, const FormRow& row, RowLayout& layout) override;
+    void PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout) override;
+    void LoadCustomRow(HWND window, const FormRow& row) override;
     void SaveCustomRow(HWND window, const FormRow& row) override;
     bool BrowsePath(HWND window, const FormRow& row, WideString& path) override;
 

@@ -8,12 +8,10 @@
 #include <memory>
 
 #include "shell/services/wide_string.h"
+#include "ui/button_strip.h"
 
 // Sent by a page to the main window, which closes it.
 inline constexpr UINT kMessageClosePage = WM_USER + 1;
-// From a button strip to its page: a button was clicked; a drop-down entry was chosen.
-inline constexpr UINT kMessageToolbarClick = 1788;
-inline constexpr UINT kMessageToolbarMenuSelect = 1789;
 
 // A drawing surface off the screen. The DC's own bitmap and object wait in `previous…` and go back
 // before the DC is deleted.

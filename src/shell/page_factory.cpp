@@ -4,6 +4,7 @@
 
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
+#include "pages/tasks_page.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
 
@@ -18,6 +19,10 @@ SettingsPage* MakeGeneral() {
     return new (std::nothrow) GeneralPage;
 }
 
+SettingsPage* MakeTasks() {
+    return new (std::nothrow) TasksPage;
+}
+
 template <UINT... titles>
 SettingsPage* MakeOutline() {
     static constexpr UINT kTitles[] = {titles...};
@@ -30,8 +35,7 @@ constexpr PageEntry kPages[kPageCount] = {
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_CALENDAR_APPOINTMENTS, IDS_TAB_CALENDAR_TASKS,
                  IDS_TAB_CALENDAR_DAY_TITLES, IDS_TAB_CALENDAR_ICONS, IDS_TAB_CALENDAR_MONTH,
                  IDS_TAB_CALENDAR_MAIL, IDS_TAB_CALENDAR_WEATHER, IDS_TAB_MISCELLANEOUS>},
-    {IDS_PAGE_TASKS, L"TasksSettingsWin",
-     MakeOutline<IDS_TAB_TASKS_GENERAL, IDS_TAB_TITLES, IDS_TAB_TASKS_ICONS, IDS_TAB_TASKS_DATES>},
+    {IDS_PAGE_TASKS, L"TasksSettingsWin", MakeTasks},
     {IDS_PAGE_NOTES, L"NotesSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin",

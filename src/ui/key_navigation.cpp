@@ -2,17 +2,23 @@
 
 #include <commctrl.h>
 
+#include "ui/button_strip.h"
+
 namespace {
-enum class ControlKind { Other, Button, Combo, Edit, ListView, ListBox, TabStrip };
+enum class ControlKind { Other, Button, ButtonStrip, Combo, Edit, ListView, ListBox, TabStrip };
 
 ControlKind KindOf(HWND control) {
     constexpr struct {
         const wchar_t* className;
         ControlKind kind;
     } kClasses[] = {
-        {L"Button", ControlKind::Button},   {L"ComboBox", ControlKind::Combo},
-        {L"Edit", ControlKind::Edit},       {WC_LISTVIEW, ControlKind::ListView},
-        {L"ListBox", ControlKind::ListBox}, {WC_TABCONTROL, ControlKind::TabStrip},
+        {L"Button", ControlKind::Button},
+        {L"ComboBox", ControlKind::Combo},
+        {L"Edit", ControlKind::Edit},
+        {WC_LISTVIEW, ControlKind::ListView},
+        {L"ListBox", ControlKind::ListBox},
+        {WC_TABCONTROL, ControlKind::TabStrip},
+        {kButtonStripClass, ControlKind::ButtonStrip},
     };
     wchar_t name[64];
     if (!GetClassName(control, name, 64)) return ControlKind::Other;
@@ -136,6 +142,10 @@ bool OnLeftOrRight(HWND root, HWND control, HWND focus, bool forward) {
         if (focus != control) return false; // The keys move the caret of its edit field.
         StepCombo(root, control, forward);
         return true;
+    case ControlKind::ButtonStrip:
+        if (!SendMessage(control, kMessageStepButton, forward, 0))
+            MoveFocus(root, control, forward);
+        return true;
     case ControlKind::Button:
         MoveFocus(root, control, forward);
         return true;
@@ -147,6 +157,7 @@ bool OnLeftOrRight(HWND root, HWND control, HWND focus, bool forward) {
 bool OnEnter(HWND control) {
     switch (KindOf(control)) {
     case ControlKind::Button:
+    case ControlKind::ButtonStrip:
         SendMessage(control, BM_CLICK, 0, 0);
         return true;
     case ControlKind::Combo:

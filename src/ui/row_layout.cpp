@@ -15,6 +15,10 @@ constexpr int kLabelEnd = 140;
 constexpr int kPathLabelPitch = 18;
 constexpr int kPathButtonWidth = 40;
 constexpr int kPathGap = 5;
+constexpr int kTextWidth = 100;
+constexpr int kTextColumn = 120; // From one column to the other.
+constexpr int kTextLabelHeight = 16;
+constexpr int kTextPitch = 26;
 
 int ClientWidth(HWND window) {
     RECT client{};
@@ -30,53 +34,65 @@ void RowLayout::Skip(int units) {
     y_ += ScaleY(units);
 }
 
-HWND RowLayout::AddCheck(UINT id, const wchar_t* text, bool checked) {
-    HWND box = CreateControl(
-        page_, L"BUTTON", text, WS_TABSTOP | BS_AUTOCHECKBOX, id,
-        {Scale(kMargin), y_, width_ - Scale(2 * kMargin), ScaleY(kControlHeight)}, font_);
-    SendMessage(box, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+void RowLayout::Put(const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
+                    const ControlPlace& place) {
+    if (HWND control = GetDlgItem(page_, static_cast<int>(id)))
+        MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
+    else
+        CreateControl(page_, className, text, style, id, place, font_);
+}
+
+void RowLayout::PutEdit(UINT id, int limit, const ControlPlace& place) {
+    Put(L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, id, place);
+    SendDlgItemMessage(page_, static_cast<int>(id), EM_LIMITTEXT, static_cast<WPARAM>(limit), 0);
+}
+
+void RowLayout::AddCheck(UINT id, const wchar_t* text) {
+    Put(L"BUTTON", text, WS_TABSTOP | BS_AUTOCHECKBOX, id,
+        {Scale(kMargin), y_, width_ - Scale(2 * kMargin), ScaleY(kControlHeight)});
     Skip(kRowPitch);
-    return box;
 }
 
-HWND RowLayout::AddCombo(UINT labelId, const wchar_t* label, UINT comboId) {
-    return AddComboOfStyle(labelId, label, comboId, CBS_DROPDOWNLIST);
+void RowLayout::AddCombo(UINT labelId, const wchar_t* label, UINT comboId) {
+    AddComboOfStyle(labelId, label, comboId, CBS_DROPDOWNLIST);
 }
 
-HWND RowLayout::AddEditableCombo(UINT labelId, const wchar_t* label, UINT comboId) {
-    return AddComboOfStyle(labelId, label, comboId, CBS_DROPDOWN | CBS_AUTOHSCROLL);
+void RowLayout::AddEditableCombo(UINT labelId, const wchar_t* label, UINT comboId) {
+    AddComboOfStyle(labelId, label, comboId, CBS_DROPDOWN | CBS_AUTOHSCROLL);
 }
 
-HWND RowLayout::AddComboOfStyle(UINT labelId, const wchar_t* label, UINT comboId, DWORD style) {
-    CreateControl(page_, L"STATIC", label, SS_RIGHT, labelId,
-                  {0, y_ + ScaleY(kLabelDrop), width_ - Scale(kLabelEnd), ScaleY(kControlHeight)},
-                  font_);
+void RowLayout::AddComboOfStyle(UINT labelId, const wchar_t* label, UINT comboId, DWORD style) {
+    Put(L"STATIC", label, SS_RIGHT, labelId,
+        {0, y_ + ScaleY(kLabelDrop), width_ - Scale(kLabelEnd), ScaleY(kControlHeight)});
     // Without a scroll bar of its own a drop-down list shows only the entries that fit.
-    HWND combo = CreateControl(page_, L"COMBOBOX", L"", WS_TABSTOP | WS_VSCROLL | style, comboId,
-                               {width_ - Scale(kMargin) - Scale(kComboWidth), y_,
-                                Scale(kComboWidth), ScaleY(kComboDropHeight)},
-                               font_);
+    Put(L"COMBOBOX", L"", WS_TABSTOP | WS_VSCROLL | style, comboId,
+        {width_ - Scale(kMargin) - Scale(kComboWidth), y_, Scale(kComboWidth),
+         ScaleY(kComboDropHeight)});
     Skip(kRowPitch);
-    return combo;
 }
 
-void RowLayout::AddPath(UINT firstId, const wchar_t* label, const wchar_t* path, int limit) {
+void RowLayout::AddPath(UINT firstId, const wchar_t* label, int limit) {
     const int left = Scale(kMargin);
     const int right = width_ - left;
     const int buttonWidth = Scale(kPathButtonWidth);
     const int browse = right - buttonWidth;
     const int clear = browse - Scale(kPathGap) - buttonWidth;
     const int height = ScaleY(kControlHeight);
-    CreateControl(page_, L"STATIC", label, SS_LEFT, firstId, {left, y_, right - left, height},
-                  font_);
+    Put(L"STATIC", label, SS_LEFT, firstId, {left, y_, right - left, height});
     Skip(kPathLabelPitch);
-    HWND edit =
-        CreateControl(page_, L"EDIT", path, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, firstId + 1,
-                      {left, y_, clear - Scale(kPathGap) - left, height}, font_);
-    SendMessage(edit, EM_LIMITTEXT, static_cast<WPARAM>(limit), 0);
-    CreateControl(page_, L"BUTTON", LanguageText(IDS_CLEAR).CStr(), WS_TABSTOP, firstId + 2,
-                  {clear, y_, buttonWidth, height}, font_);
-    CreateControl(page_, L"BUTTON", LanguageText(IDS_BROWSE).CStr(), WS_TABSTOP, firstId + 3,
-                  {browse, y_, buttonWidth, height}, font_);
+    PutEdit(firstId + 1, limit, {left, y_, clear - Scale(kPathGap) - left, height});
+    Put(L"BUTTON", LanguageText(IDS_CLEAR).CStr(), WS_TABSTOP, firstId + 2,
+        {clear, y_, buttonWidth, height});
+    Put(L"BUTTON", LanguageText(IDS_BROWSE).CStr(), WS_TABSTOP, firstId + 3,
+        {browse, y_, buttonWidth, height});
     Skip(kRowPitch);
+}
+
+void RowLayout::AddText(int column, UINT labelId, const wchar_t* label, UINT editId, int limit) {
+    const int left = Scale(kMargin + column * kTextColumn);
+    const int width = Scale(kTextWidth);
+    Put(L"STATIC", label, SS_LEFT, labelId, {left, y_, width, ScaleY(kTextLabelHeight)});
+    Skip(kTextLabelHeight);
+    PutEdit(editId, limit, {left, y_, width, ScaleY(kControlHeight)});
+    Skip(kTextPitch);
 }

@@ -8,6 +8,7 @@
 
 #include "resource_ids.h"
 #include "shell/page_factory.h"
+#include "ui/button_strip.h"
 
 namespace {
 struct PageSight {
@@ -30,6 +31,7 @@ constexpr PageSight kPages[kPageCount] = {
     {"category", L"CategorySettingsWin"},
 };
 constexpr int kGeneral = 0;
+constexpr int kTasks = 2;
 constexpr UINT kSkinBrowse = 1214;
 
 void Show(const char* name) {
@@ -54,6 +56,23 @@ void ShowDialogs(const Program& program, HWND page) {
     }
 }
 
+// The menu of the first chooser and the tooltip of a button, both reached by keys.
+void ShowIconChooser(HWND page) {
+    constexpr DWORD kTipTime = 800; // Milliseconds; tooltips come after a rest.
+    HWND strip = FindWindowEx(page, nullptr, kButtonStripClass, nullptr);
+    TapOn(strip);
+    Show("menu-icons");
+    Press(VK_DOWN);
+    Press(VK_DOWN);
+    Show("menu-icons-entry");
+    Press(VK_ESCAPE);
+    Press(VK_DOWN);
+    Press(VK_DOWN);
+    Press(VK_RIGHT);
+    Sleep(kTipTime);
+    Show("tooltip-icon");
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -65,6 +84,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         std::snprintf(name, sizeof(name), "page-%02d-%s-%d", row, kPages[row].name, tab + 1);
         Show(name);
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
+        if (row == kTasks && tab == 2) ShowIconChooser(page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
     return WaitUntil([page] { return !IsWindow(page); });
