@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
 #include "resource_ids.h"
@@ -14,8 +15,9 @@ struct PageEntry {
     SettingsPage* (*make)();
 };
 
-SettingsPage* MakeGeneral() {
-    return new (std::nothrow) GeneralPage;
+template <typename Page>
+SettingsPage* MakePage() {
+    return new (std::nothrow) Page;
 }
 
 template <UINT... titles>
@@ -25,11 +27,8 @@ SettingsPage* MakeOutline() {
 }
 
 constexpr PageEntry kPages[kPageCount] = {
-    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakeGeneral},
-    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_CALENDAR_APPOINTMENTS, IDS_TAB_CALENDAR_TASKS,
-                 IDS_TAB_CALENDAR_DAY_TITLES, IDS_TAB_CALENDAR_ICONS, IDS_TAB_CALENDAR_MONTH,
-                 IDS_TAB_CALENDAR_MAIL, IDS_TAB_CALENDAR_WEATHER, IDS_TAB_MISCELLANEOUS>},
+    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakePage<GeneralPage>},
+    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
     {IDS_PAGE_TASKS, L"TasksSettingsWin",
      MakeOutline<IDS_TAB_TASKS_GENERAL, IDS_TAB_TITLES, IDS_TAB_TASKS_ICONS, IDS_TAB_TASKS_DATES>},
     {IDS_PAGE_NOTES, L"NotesSettingsWin",
