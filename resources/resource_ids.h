@@ -366,6 +366,7 @@
 #define IDS_CALENDAR_MAIL_PROGRAM_OWN 834
 #define IDS_CALENDAR_MAIL_PATH 710
 #define IDS_CALENDAR_MAIL_PATH_TIP 835
+#define IDS_CALENDAR_MAIL_PATH_FILES 2080 // The kind of files to browse for.
 #define IDS_CALENDAR_MAIL_TITLE 711
 #define IDS_CALENDAR_MAIL_TITLE_LABEL 836
 #define IDS_CALENDAR_MAIL_TITLE_TIP 837
@@ -422,6 +423,32 @@
 #define IDS_TITLES_COUNTERS 1254
 #define IDS_TASKS_SAMPLE 1479
 
+// Texts: backups.
+#define IDS_BACKUP_EXPORTED 607 // The path follows it, in quotes.
+#define IDS_BACKUP_EXPORTED_CAPTION 608
+#define IDS_BACKUP_NOT_IMPORTED 609
+#define IDS_BACKUP_NOT_IMPORTED_CAPTION 610
+#define IDS_BACKUP_IMPORTED 611
+#define IDS_BACKUP_IMPORTED_CAPTION 612
+
+// Texts: schemes.
+#define IDS_SCHEME_NOT_SELECTED 863
+#define IDS_SCHEME_NOT_SELECTED_CAPTION 864
+#define IDS_SCHEME_DELETE_QUESTION 865
+#define IDS_SCHEME_DELETE_QUESTION_CAPTION 866
+#define IDS_SCHEME_NO_NAME 867
+#define IDS_SCHEME_NO_NAME_CAPTION 868
+#define IDS_SCHEME_EXISTS 869
+#define IDS_SCHEME_EXISTS_CAPTION 870
+#define IDS_SCHEME_SAVED 871
+#define IDS_SCHEME_SAVED_CAPTION 872
+#define IDS_SCHEME_LOAD_QUESTION 873
+#define IDS_SCHEME_LOAD_QUESTION_CAPTION 874
+#define IDS_SCHEME_NOT_OPENED 875
+#define IDS_SCHEME_NOT_OPENED_CAPTION 876
+#define IDS_SCHEME_NOT_LOADED 877
+#define IDS_SCHEME_NOT_LOADED_CAPTION 878
+
 // Texts: captions of the dashboard's own tabs.
 #define IDS_DASHBOARD_TAB_TASKS 1416
 #define IDS_DASHBOARD_TAB_NOTES 1417
@@ -443,6 +470,13 @@
 // Texts: pages without settings of their own yet.
 #define IDS_PAGE_OUTLINE 2030
 
+// Texts: the file dialogs.
+#define IDS_FILE_NAME 2040
+#define IDS_FILE_TYPE 2041
+#define IDS_FILE_EMPTY 2042
+#define IDS_FILE_REPLACE_CAPTION 2043
+#define IDS_FILE_REPLACE_QUESTION 2044
+
 // Menus of the language libraries.
 #define IDM_MAIN 153
 
@@ -453,9 +487,10 @@
 #define IDC_IMPORT_BACKUP 1135
 
 // Bitmaps of the display libraries.
-#define IDB_MENU_BAR 158  // Two images of 16 units: 0 cancel, 1 ok. Mask COLORREF 0xC6CFDE.
-#define IDB_PAGE_LIST 159 // Twelve images of 32 units, one per page. Mask COLORREF 0x00FF00.
-#define IDB_ARROWS 213    // 20 by 12 units: step down, step up. Mask COLORREF 0x0000FF.
+#define IDB_MENU_BAR 158    // Two images of 16 units: 0 cancel, 1 ok. Mask COLORREF 0xC6CFDE.
+#define IDB_PAGE_LIST 159   // Twelve images of 32 units, one per page. Mask COLORREF 0x00FF00.
+#define IDB_FILE_IMAGES 160 // Two images of 20 units: 0 folder, 1 file. Mask COLORREF 0x00FF00.
+#define IDB_ARROWS 213      // 20 by 12 units: step down, step up. Mask COLORREF 0x0000FF.
 
 // Bitmaps of the display libraries: the dashboard's symbols, each 12 by 12 units, on white and
 // never white where they are drawn. The check boxes are on COLORREF 0x0000FF, the tab arrows on

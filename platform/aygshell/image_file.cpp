@@ -24,6 +24,7 @@ class ComPointer {
     Interface* pointer_ = nullptr;
 };
 
+// In 32 bits: Wine has no way from a picture of indexed colours to 24.
 bool OpenPicture(LPCWSTR path, ComPointer<IWICFormatConverter>& picture) {
     ComPointer<IWICImagingFactory> factory;
     ComPointer<IWICBitmapDecoder> decoder;
@@ -35,7 +36,7 @@ bool OpenPicture(LPCWSTR path, ComPointer<IWICFormatConverter>& picture) {
                path, nullptr, GENERIC_READ, WICDecodeMetadataCacheOnDemand, decoder.Receive())) &&
            SUCCEEDED(decoder->GetFrame(0, frame.Receive())) &&
            SUCCEEDED(factory->CreateFormatConverter(picture.Receive())) &&
-           SUCCEEDED(picture->Initialize(frame.Get(), GUID_WICPixelFormat24bppBGR,
+           SUCCEEDED(picture->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGRA,
                                          WICBitmapDitherTypeNone, nullptr, 0,
                                          WICBitmapPaletteTypeCustom));
 }
@@ -44,16 +45,16 @@ HBITMAP CopyPixels(IWICFormatConverter& picture) {
     UINT width = 0;
     UINT height = 0;
     if (FAILED(picture.GetSize(&width, &height)) || width == 0 || height == 0) return nullptr;
-    const ULONGLONG stride = (width * 3ULL + 3) & ~3ULL;
+    const ULONGLONG stride = width * 4ULL;
     const ULONGLONG size = stride * height;
-    if (size > INT_MAX) return nullptr;
+    if (stride > INT_MAX || size > INT_MAX) return nullptr;
 
     BITMAPINFO info = {};
     info.bmiHeader = {sizeof(BITMAPINFOHEADER),
                       static_cast<LONG>(width),
                       -static_cast<LONG>(height),
                       1,
-                      24,
+                      32,
                       BI_RGB,
                       0,
                       0,

@@ -12,6 +12,8 @@ std::atomic<ULONG> counts[33];
 std::atomic<ULONG> callsToFailure;
 std::atomic<ULONG> failingCalls;
 std::atomic<LONG> failure;
+// In place of an error.
+constexpr LONG kExit = -1;
 
 bool ReachesPlannedFailure() {
     ULONG left = callsToFailure;
@@ -24,8 +26,9 @@ bool ReachesPlannedFailure() {
 
 LONG CountCall(StandInCalls kind) {
     ++counts[std::bit_width(static_cast<ULONG>(kind))];
-    const bool fails = (failingCalls & kind) != 0 && ReachesPlannedFailure();
-    return fails ? failure.load() : ERROR_SUCCESS;
+    if ((failingCalls & kind) == 0 || !ReachesPlannedFailure()) return ERROR_SUCCESS;
+    if (failure == kExit) TerminateProcess(GetCurrentProcess(), kStandInExitCode);
+    return failure;
 }
 
 extern "C" {
@@ -48,6 +51,10 @@ void WINAPI StandInFailCall(ULONG calls, ULONG nth, LONG error) {
     failingCalls = calls;
     failure = error;
     callsToFailure = nth;
+}
+
+void WINAPI StandInExitAtCall(ULONG calls, ULONG nth) {
+    StandInFailCall(calls, nth, kExit);
 }
 
 } // extern "C"

@@ -17,7 +17,18 @@ enum StandInCalls : ULONG {
     kRegDeleteValueCalls = 1U << 8,
     kRegEnumValueCalls = 1U << 9,
     kRegistryCalls = (1U << 10) - 1,
+    kCreateFileCalls = 1U << 10,
+    kReadFileCalls = 1U << 11,
+    kWriteFileCalls = 1U << 12,
+    kSetFilePointerCalls = 1U << 13,
+    kDeleteFileCalls = 1U << 14,
+    kMoveFileCalls = 1U << 15,
+    kCreateDirectoryCalls = 1U << 16,
+    kFindFileCalls = 1U << 17, // The first and the next.
+    kFileCalls = (1U << 18) - 1 - kRegistryCalls,
 };
+
+constexpr UINT kStandInExitCode = 99;
 
 extern "C" {
 // Calls of all kinds in the set since the start or the last reset, failed ones too.
@@ -29,6 +40,10 @@ void WINAPI StandInResetCalls();
 // Makes the nth call from now (1 = the next) of those in the set answer `error` and do nothing.
 // Only that one call fails. A plan replaces the one before; nth 0 means that none fails.
 void WINAPI StandInFailCall(ULONG calls, ULONG nth, LONG error);
+
+// Ends the process, as if its battery were taken out, at the nth call from now of those in the set;
+// its exit code is kStandInExitCode. Takes the place of a planned failure, and the other way round.
+void WINAPI StandInExitAtCall(ULONG calls, ULONG nth);
 
 // Sets the version of the system played; 0, 0 goes back to OVDEVICE_OS, or 5.1 without it.
 void WINAPI StandInSetOsVersion(DWORD major, DWORD minor);

@@ -7,6 +7,7 @@
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "ui/file_dialog.h"
 
 namespace {
 // Control ids; those of the option lists stand in calendar_options.h.
@@ -221,6 +222,14 @@ bool HasWeather() {
     const DWORD attributes = GetFileAttributes(path.CStr());
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
+
+// The page may be closed and gone when the user is done.
+void BrowseMailProgram(HWND page, HWND field) {
+    const WideString files = LanguageText(IDS_CALENDAR_MAIL_PATH_FILES);
+    WideString path;
+    if (SelectFileToOpen(page, {L"Custom Mail App.", files.CStr(), L"exe", L""}, path))
+        SetWindowText(field, path.CStr());
+}
 } // namespace
 
 CalendarPage::CalendarPage()
@@ -336,11 +345,14 @@ LRESULT CalendarPage::OnToolbarClick(HWND, UINT, WPARAM, LPARAM code) {
 
 LRESULT CalendarPage::OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const UINT id = LOWORD(wParam);
+    const OptionDetailPanel& panel = optionLists_.Panel();
     const bool isClick = lParam && HIWORD(wParam) == BN_CLICKED;
-    if (isClick &&
-        (OnTitleOrderButton(window, kCalendarTitleOrder, id) || optionLists_.Panel().OnButton(id)))
+    if (isClick && (OnTitleOrderButton(window, kCalendarTitleOrder, id) || panel.OnButton(id)))
         return 0;
-    return FormPage::OnCommand(window, message, wParam, lParam);
+    if (!isClick || id != panel.BrowseId())
+        return FormPage::OnCommand(window, message, wParam, lParam);
+    BrowseMailProgram(window, panel.PathField());
+    return 0;
 }
 
 LRESULT CalendarPage::Layout(HWND window) {

@@ -114,7 +114,7 @@ WideString DisplayFormat::NameOf(int) const {
     return {};
 }
 
-void DisplayFormat::DrawButton(HDC dc, int, const RECT& place) const {
+void DisplayFormat::DrawButton(HDC dc, int, const RECT& place, bool hasFocus) {
     const SelectScope font(dc, Font());
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, RGB(0, 0, 0));
@@ -122,15 +122,17 @@ void DisplayFormat::DrawButton(HDC dc, int, const RECT& place) const {
     text.left += Scale(kSampleGap);
     DrawText(dc, FormatText().CStr(), -1, &text,
              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    if (hasFocus) DrawFocusRect(dc, &place);
 }
 
 void DisplayFormat::Press(int) {
     Step(true);
 }
 
-void DisplayFormat::Step(bool forward) {
+bool DisplayFormat::Step(bool forward) {
     DwordSetting& format = settingsStore.ApptDisplayFormat;
     format.Set(NextFormat(format.value, forward));
     Redraw();
     RedrawSample();
+    return true;
 }

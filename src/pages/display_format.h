@@ -28,9 +28,9 @@ class DisplayFormat final : private ButtonStrip {
     [[nodiscard]] int ButtonCount() const override;
     [[nodiscard]] bool IsOffered(int button) const override;
     [[nodiscard]] WideString NameOf(int button) const override;
-    void DrawButton(HDC dc, int button, const RECT& place) const override;
+    void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) override;
     void Press(int button) override;
-    void Step(bool forward) override;
+    bool Step(bool forward) override;
 
     [[nodiscard]] int SampleTop() const;
 

@@ -30,7 +30,7 @@ struct FormRow {
     RowKind kind;
     UINT labelId = 0; // The label's control; none for a box.
     UINT id;          // The control that holds the value; for a path the first of the four.
-    UINT text = 0;
+    UINT text = 0;    // The label or caption; a custom row may have its own.
     std::span<const UINT> choices = {};
     void (*fillChoices)(HWND combo) = nullptr; // Adds entries that are no texts of the library.
     DwordSetting SettingsStore::*setting = nullptr;

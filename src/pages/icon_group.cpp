@@ -3,9 +3,10 @@
 #include "shell/services/scaling.h"
 
 namespace {
-constexpr int kMargin = 4;
-constexpr int kLabelWidth = 60;
+constexpr int kMargin = 3;
+constexpr int kLabelWidth = 63;
 constexpr int kGap = 3;
+constexpr int kLabelDrop = 5; // A label stands this much lower than its buttons.
 
 uint32_t StoredAt(const IconSlot& slot) {
     return (settingsStore.*slot.setting).value;
@@ -14,9 +15,10 @@ uint32_t StoredAt(const IconSlot& slot) {
 // One chooser in the columns between two edges of the page; all in pixels.
 void PlaceBetween(const IconChooser& chooser, int left, int right, int y) {
     const int height = ScaleY(IconChooser::kHeight);
+    const int drop = ScaleY(kLabelDrop);
     const int label = left + Scale(kMargin);
     const int buttons = label + Scale(kLabelWidth) + Scale(kGap);
-    chooser.Place({label, y, Scale(kLabelWidth), height},
+    chooser.Place({label, y + drop, Scale(kLabelWidth), height - drop},
                   {buttons, y, right - Scale(kMargin) - buttons, height});
 }
 } // namespace

@@ -4,8 +4,22 @@
 
 #include <span>
 
+#include "resource_ids.h"
 #include "settings/settings_store.h"
 #include "ui/icon_chooser.h"
+
+// The icons that can stand beside an item; their flags mean the same for both kinds.
+inline constexpr IconFlag kAppointmentIconFlags[] = {
+    {1, IDS_ICON_NOTE},        {2, IDS_ICON_REMINDER},   {4, IDS_ICON_IMPORTANCE},
+    {8, IDS_ICON_RECURRING},   {16, IDS_ICON_PRIVATE},   {64, IDS_ICON_LINK},
+    {128, IDS_ICON_ATTENDEES}, {256, IDS_ICON_CATEGORY},
+};
+
+inline constexpr IconFlag kTaskIconFlags[] = {
+    {1, IDS_ICON_NOTE},      {2, IDS_ICON_REMINDER},   {4, IDS_ICON_IMPORTANCE},
+    {8, IDS_ICON_RECURRING}, {16, IDS_ICON_PRIVATE},   {32, IDS_ICON_REGENERATED},
+    {64, IDS_ICON_LINK},     {256, IDS_ICON_CATEGORY},
+};
 
 // One of the places where an item of the dashboard shows icons.
 struct IconSlot {

@@ -11,7 +11,8 @@ constexpr int kIndent = 8;
 constexpr int kIconPitch = 13;
 constexpr int kLeadingRect = 12;
 constexpr int kWithoutTimes = 2;
-constexpr int kLabelGap = 3;
+constexpr int kLabelGap = 4;
+constexpr int kIconGap = 2;
 constexpr int kNarrowestSubject = 20;
 
 int Indentation(bool indentItems) {
@@ -20,9 +21,9 @@ int Indentation(bool indentItems) {
 
 // From the end of what stands at the left to the beginning of the right icons.
 void PlaceSubject(LineLayout& layout, const LineSpace& space, int left, ScaleUnits scale) {
+    const int icons = space.rightIcons > 0 ? kIconPitch * space.rightIcons + kIconGap : 0;
     layout.subject = left;
-    layout.subjectEnd = std::max(space.right - scale(kIconPitch * space.rightIcons),
-                                 left + scale(kNarrowestSubject));
+    layout.subjectEnd = std::max(space.right - scale(icons), left + scale(kNarrowestSubject));
 }
 
 int BehindLabel(int label, int labelWidth, ScaleUnits scale) {

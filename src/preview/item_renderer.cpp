@@ -13,6 +13,7 @@ namespace {
 constexpr int kSpacing = 1;       // Units from an item to the next.
 constexpr int kSecondTextGap = 4; // Units between the subject and a text behind it.
 constexpr COLORREF kBuiltInBusy = RGB(44, 77, 156);
+constexpr COLORREF kUncategorised = RGB(160, 160, 160);
 
 int ScaleAcross(int units) {
     return Scale(units);
@@ -42,8 +43,8 @@ AppointmentTexts TextsOf(const SettingsStore& store, uint32_t format, const Prev
                               TimeText(time, TimeFormOf(format)));
 }
 
-// A place of its own at the line's end, of at most half of what the subject has: gives where the
-// subject then ends.
+// A text behind the subject stands at the line's end, in at most half of what the subject has.
+// Gives where the subject then ends.
 int DrawBehindSubject(const LinePainter& painter, const LineLayout& layout, const WideString& text,
                       int textWidth) {
     if (text.IsEmpty()) return layout.subjectEnd;
@@ -52,9 +53,26 @@ int DrawBehindSubject(const LinePainter& painter, const LineLayout& layout, cons
     return layout.subjectEnd - width - Scale(kSecondTextGap);
 }
 
-COLORREF BusyColour(const SettingsStore& store) {
-    const uint32_t colour = store.ClrStatusBusy.value;
-    return colour == kNoColour ? kBuiltInBusy : colour & 0xFFFFFF;
+void DrawTexts(HDC dc, const RECT& place, const TextStyle& style, const LineLayout& layout,
+               const AppointmentTexts& texts, bool hasSecondLine) {
+    const LinePainter painter(dc, style, place.top);
+    painter.Text(texts.label, layout.label, layout.subject);
+    if (hasSecondLine) {
+        const LinePainter below(dc, style, place.top + LineHeight(dc));
+        below.Text(texts.second, layout.subject, place.right);
+        painter.Text(texts.subject, layout.subject, layout.subjectEnd);
+    } else {
+        const int end =
+            DrawBehindSubject(painter, layout, texts.second, TextWidth(dc, texts.second));
+        painter.Text(texts.subject, layout.subject, end);
+    }
+}
+
+// By status, where every item drawn here is busy, or by category, where none has one.
+COLORREF LeadingRectColour(const SettingsStore& store) {
+    constexpr uint32_t kByStatus = 1;
+    if (store.LeadingRects.value != kByStatus) return kUncategorised;
+    return ColourOr(store.ClrStatusBusy.value, kBuiltInBusy);
 }
 
 } // namespace
@@ -64,8 +82,8 @@ int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const
     const ColumnSettings columns = ColumnsOf(store_);
     const TextStyle style = TextStyleOf(store_, store_.FontCalApptBusy);
     const SelectScope font(dc, font_.Get(style.font));
-    const int lineHeight = LineHeight(dc);
-    const int height = lineHeight * (HasSecondLine(columns.format) ? 2 : 1) + ScaleY(kSpacing);
+    const bool hasSecondLine = HasSecondLine(columns.format);
+    const int height = LineHeight(dc) * (hasSecondLine ? 2 : 1) + ScaleY(kSpacing);
     if (pass == DrawingPass::Measure) return height;
 
     const AppointmentTexts texts = TextsOf(store_, columns.format, item, day);
@@ -75,18 +93,10 @@ int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const
     const LineLayout layout = LayOutAppointment(space, columns, TimeColumnFor(columns, style.font),
                                                 TextWidth(dc, texts.label), ScaleAcross);
     const LinePainter painter(dc, style, place.top);
-    if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, BusyColour(store_));
+    if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, LeadingRectColour(store_));
     painter.LeftIconRow(symbols_, layout.leftIcons, columns.appointmentIcons);
     painter.RightIconRow(symbols_, place.right, icons);
-    painter.Text(texts.label, layout.label, layout.subject);
-    int subjectEnd = layout.subjectEnd;
-    if (HasSecondLine(columns.format)) {
-        const LinePainter below(dc, style, place.top + lineHeight);
-        below.Text(texts.second, layout.subject, place.right);
-    } else {
-        subjectEnd = DrawBehindSubject(painter, layout, texts.second, TextWidth(dc, texts.second));
-    }
-    painter.Text(texts.subject, layout.subject, subjectEnd);
+    DrawTexts(dc, place, style, layout, texts, hasSecondLine);
     return height;
 }
 

@@ -39,7 +39,6 @@ class Band {
 
 void ItemSample::PaintAppointment(HDC page, int top, int width, const WideString& subject,
                                   const WideString& location) {
-    if (width <= 0) return;
     constexpr VariantTime kNoon = 0.5;
     constexpr VariantTime kThreeHours = 0.125;
     const int today = Today();
@@ -54,7 +53,6 @@ void ItemSample::PaintAppointment(HDC page, int top, int width, const WideString
 }
 
 void ItemSample::PaintTask(HDC page, int top, int width, const WideString& subject) {
-    if (width <= 0) return;
     PreviewItem task;
     task.subject = subject;
     task.start = kNoDate;

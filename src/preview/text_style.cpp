@@ -9,6 +9,7 @@
 
 namespace {
 
+constexpr int kHighestLetters = 42; // Units.
 constexpr uint32_t kShadowModes = 5;
 constexpr COLORREF kBuiltInShadow = RGB(192, 192, 192);
 constexpr BYTE kClearTypeQuality = 5;
@@ -16,7 +17,7 @@ constexpr BYTE kClearTypeQuality = 5;
 // The registry may hold any number. Letters higher than a sample are never seen whole, and take the
 // platform long to make.
 LONG SafeHeight(uint32_t height) {
-    const LONG highest = ScaleY(42);
+    const LONG highest = ScaleY(kHighestLetters);
     return std::clamp(static_cast<LONG>(height), -highest, highest);
 }
 
@@ -28,7 +29,7 @@ LOGFONT FontOf(const SettingsStore& store, const FontSetting& own) {
     LOGFONT font{};
     font.lfWeight = FW_NORMAL;
     font.lfHeight = SafeHeight(store.FontGnrlSize.value);
-    if (store.FontGnrlUseAdvncd.value != 0) {
+    if (store.FontGnrlUseAdvncd.value == 1) {
         font = own.logFont;
         font.lfHeight = SafeHeight(static_cast<uint32_t>(own.logFont.lfHeight));
         font.lfWeight = SafeWeight(own.logFont.lfWeight);
@@ -41,12 +42,11 @@ LOGFONT FontOf(const SettingsStore& store, const FontSetting& own) {
     return font;
 }
 
-// The high byte of a colour would have another meaning to the platform.
-COLORREF ColourOr(uint32_t value, COLORREF fallback) {
-    return value == kNoColour ? fallback : value & 0xFFFFFF;
-}
-
 } // namespace
+
+COLORREF ColourOr(uint32_t value, COLORREF builtIn) {
+    return value == kNoColour ? builtIn : value & 0xFFFFFF;
+}
 
 TextStyle TextStyleOf(const SettingsStore& store, const FontSetting& own) {
     const uint32_t shadow = store.UseShadowColor.value;

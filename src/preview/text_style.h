@@ -5,6 +5,10 @@
 #include "settings/settings_store.h"
 #include "shell/services/handles.h"
 
+// The colour of a setting; the built-in one where it has none. Without the high byte, which would
+// give a colour another meaning to the platform.
+[[nodiscard]] COLORREF ColourOr(uint32_t value, COLORREF builtIn);
+
 // How a kind of item writes its texts, by the font and colour settings.
 struct TextStyle {
     LOGFONT font{};

@@ -8,7 +8,7 @@
 // time of day.
 using VariantTime = double;
 
-inline constexpr int64_t kMinutesPerDay = 24 * 60;
+inline constexpr int64_t kMinutesPerDay = int64_t{24} * 60;
 
 // The nearest whole minute since 30 December 1899, in which all comparisons are made: fractions of
 // days are not exact.

@@ -48,12 +48,23 @@ bool ReadText(HKEY key, const wchar_t* name, WideString& text) {
 }
 
 // Dropping a failed write is the rule of the whole model, so no result is looked at here.
+void SetNumberValue(HKEY key, const wchar_t* name, uint32_t value) {
+    if (key == nullptr) return;
+    RegSetValueEx(key, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value);
+}
+
+void SetTextValue(HKEY key, const wchar_t* name, const wchar_t* text) {
+    if (key == nullptr) return;
+    const auto size = static_cast<DWORD>((std::wcslen(text) + 1) * sizeof(wchar_t));
+    RegSetValueEx(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size);
+}
+
 void WriteNumber(HKEY key, const wchar_t* name, uint32_t value, uint32_t defaultValue) {
     if (key == nullptr) return;
     if (value == defaultValue) {
         RegDeleteValue(key, name);
     } else {
-        RegSetValueEx(key, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value);
+        SetNumberValue(key, name, value);
     }
 }
 
@@ -62,7 +73,6 @@ void WriteText(HKEY key, const wchar_t* name, const wchar_t* text, const wchar_t
     if (std::wcscmp(text, defaultText) == 0) {
         RegDeleteValue(key, name);
     } else {
-        const auto size = static_cast<DWORD>((std::wcslen(text) + 1) * sizeof(wchar_t));
-        RegSetValueEx(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size);
+        SetTextValue(key, name, text);
     }
 }

@@ -21,6 +21,9 @@
 // the answer is false, when there is no value.
 bool ReadText(HKEY key, const wchar_t* name, WideString& text);
 
+void SetNumberValue(HKEY key, const wchar_t* name, uint32_t value);
+void SetTextValue(HKEY key, const wchar_t* name, const wchar_t* text);
+
 // A value equal to its default is deleted.
 void WriteNumber(HKEY key, const wchar_t* name, uint32_t value, uint32_t defaultValue);
 void WriteText(HKEY key, const wchar_t* name, const wchar_t* text, const wchar_t* defaultText);

@@ -43,9 +43,6 @@ void MainMenuBar::TakeOutDashboardItems() const {
     HMENU tools = GetSubMenu(menu, 1);
     DeleteMenu(tools, kPosition, MF_BYPOSITION);
     DeleteMenu(tools, kPosition, MF_BYPOSITION);
-    // Backups come with a later version.
-    EnableMenuItem(tools, IDC_EXPORT_BACKUP, MF_BYCOMMAND | MF_GRAYED);
-    EnableMenuItem(tools, IDC_IMPORT_BACKUP, MF_BYCOMMAND | MF_GRAYED);
 }
 
 void MainMenuBar::AddButtons() {

@@ -9,10 +9,12 @@
 #include <memory>
 #include <utility>
 
+#include "files/category_store.h"
 #include "resource_ids.h"
 #include "settings/font_catalogue.h"
 #include "settings/settings_store.h"
 #include "shell/about_window.h"
+#include "shell/backup_commands.h"
 #include "shell/main_menu_bar.h"
 #include "shell/page_factory.h"
 #include "shell/page_list.h"
@@ -82,6 +84,7 @@ LRESULT OnCreate(HWND window) {
     mainWindow.menuBar.Create(window);
     application.normalFont = CreateUiFont(FW_DONTCARE);
     application.boldFont = CreateUiFont(FW_BOLD);
+    categoryStore.LoadCategoryStore();
     mainWindow.pageList.Create(window);
     return 0;
 }
@@ -133,6 +136,8 @@ void OnOk(HWND window) {
         return;
     }
     settingsStore.Save();
+    categoryStore.SaveCategoryRegistry();
+    categoryStore.SaveFilterFile();
     PostMessage(HWND_BROADCAST, application.settingsChangedMessage, 0, 0);
     DestroyWindow(window);
 }
@@ -154,6 +159,12 @@ LRESULT OnCommand(HWND window, UINT id) {
         break;
     case IDC_ABOUT:
         ShowAbout(window);
+        break;
+    case IDC_EXPORT_BACKUP:
+        ExportSettingsBackup(window);
+        break;
+    case IDC_IMPORT_BACKUP:
+        ImportSettingsBackup(window);
         break;
     default:
         break;

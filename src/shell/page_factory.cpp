@@ -5,6 +5,7 @@
 #include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
+#include "pages/tasks_page.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
 
@@ -29,8 +30,7 @@ SettingsPage* MakeOutline() {
 constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakePage<GeneralPage>},
     {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
-    {IDS_PAGE_TASKS, L"TasksSettingsWin",
-     MakeOutline<IDS_TAB_TASKS_GENERAL, IDS_TAB_TITLES, IDS_TAB_TASKS_ICONS, IDS_TAB_TASKS_DATES>},
+    {IDS_PAGE_TASKS, L"TasksSettingsWin", MakePage<TasksPage>},
     {IDS_PAGE_NOTES, L"NotesSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin",

@@ -1,7 +1,6 @@
 #include "ui/button_strip.h"
 
 #include "shell/services/application.h"
-#include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
 #include "ui/controls.h"
 #include "ui/paint_buffer.h"
@@ -53,15 +52,16 @@ int ButtonStrip::ButtonAt(LPARAM position) const {
     return -1;
 }
 
-void ButtonStrip::Step(bool forward) {
+bool ButtonStrip::Step(bool forward) {
     const int step = forward ? 1 : -1;
     for (int button = current_ + step; button >= 0 && button < ButtonCount(); button += step) {
         if (!IsOffered(button)) continue;
         current_ = button;
         RestOn(button);
         Redraw();
-        return;
+        return true;
     }
+    return false;
 }
 
 void ButtonStrip::Paint() {
@@ -71,13 +71,9 @@ void ButtonStrip::Paint() {
     GetClientRect(window_, &client);
     {
         const PaintBuffer buffer(dc, client);
+        const int focused = GetFocus() == window_ ? current_ : -1;
         for (int button = 0; button < ButtonCount(); ++button)
-            DrawButton(buffer.Dc(), button, PlaceOf(button));
-        if (GetFocus() == window_) {
-            RECT focus = PlaceOf(current_);
-            InflateRect(&focus, -Scale(2), -ScaleY(2));
-            DrawFocusRect(buffer.Dc(), &focus);
-        }
+            DrawButton(buffer.Dc(), button, PlaceOf(button), button == focused);
     }
     EndPaint(window_, &paint);
 }
@@ -132,7 +128,7 @@ void ButtonStrip::OnPointerUp(int button) {
 void ButtonStrip::OnFocus(bool isGained) {
     if (isGained && !IsOffered(current_)) {
         current_ = -1;
-        Step(true);
+        ButtonStrip::Step(true);
     }
     if (isGained)
         RestOn(current_);
@@ -154,7 +150,7 @@ void ButtonStrip::OnDestroy() {
 
 void ButtonStrip::MeasureEntry(MEASUREITEMSTRUCT&) const {}
 
-void ButtonStrip::DrawEntry(const DRAWITEMSTRUCT&) const {}
+void ButtonStrip::DrawEntry(const DRAWITEMSTRUCT&) {}
 
 LRESULT ButtonStrip::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
@@ -172,9 +168,8 @@ LRESULT ButtonStrip::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
     case WM_LBUTTONUP:
         OnPointerUp(ButtonAt(lParam));
         return 0;
-    case WM_KEYDOWN:
-        if (wParam == VK_LEFT || wParam == VK_RIGHT) Step(wParam == VK_RIGHT);
-        return 0;
+    case kMessageStepButton:
+        return Step(wParam != 0);
     case WM_KEYUP:
         if (wParam == VK_SPACE) PressCurrent();
         return 0;
@@ -184,6 +179,9 @@ LRESULT ButtonStrip::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
         OnFocus(message == WM_SETFOCUS);
+        return 0;
+    case WM_SHOWWINDOW:
+        if (!wParam) EndRest();
         return 0;
     case WM_TIMER:
         OnTimer();

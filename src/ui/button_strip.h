@@ -10,8 +10,10 @@
 inline constexpr UINT kMessageToolbarClick = 1788;
 inline constexpr UINT kMessageToolbarMenuSelect = 1789;
 
-// The window class, which the key navigation treats as one control.
+// The window class, which the key navigation treats as one control, and what it sends for Left and
+// Right (wParam: whether forward): false when there is no button further on.
 inline constexpr wchar_t kButtonStripClass[] = L"ButtonStrip";
+inline constexpr UINT kMessageStepButton = WM_USER + 1;
 
 // A row of flat buttons in one child window: one stop of the focus, in which Left and Right go from
 // button to button and a tap, Enter or Space presses one. A derived class draws the buttons and
@@ -36,14 +38,14 @@ class ButtonStrip {
     [[nodiscard]] virtual bool IsOffered(int button) const = 0;
     // What the tooltip says; empty for none.
     [[nodiscard]] virtual WideString NameOf(int button) const = 0;
-    virtual void DrawButton(HDC dc, int button, const RECT& place) const = 0;
+    virtual void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) = 0;
     // The strip, and with it this object, may be gone when it returns.
     virtual void Press(int button) = 0;
-    // Left or Right was pressed: goes to the next button.
-    virtual void Step(bool forward);
+    // Left or Right was pressed: goes to the next button; false when there is none.
+    virtual bool Step(bool forward);
     // An entry of a menu that the strip owns is to be measured or drawn.
     virtual void MeasureEntry(MEASUREITEMSTRUCT& entry) const;
-    virtual void DrawEntry(const DRAWITEMSTRUCT& entry) const;
+    virtual void DrawEntry(const DRAWITEMSTRUCT& entry);
 
     // In pixels of the strip's window.
     [[nodiscard]] RECT PlaceOf(int button) const;

@@ -1,15 +1,12 @@
 #include "ui/icon_chooser.h"
 
-#include <algorithm>
-
 #include "resource_ids.h"
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
-#include "ui/symbol_image.h"
 
 namespace {
-constexpr COLORREF kFrame = RGB(128, 128, 128);
+constexpr COLORREF kFrame = RGB(0, 0, 0);
 constexpr COLORREF kChosenFrame = RGB(0, 60, 140);
 constexpr COLORREF kChosenFace = RGB(200, 222, 250);
 constexpr int kArrowWidth = 15;
@@ -17,6 +14,21 @@ constexpr int kGap = 3;
 constexpr int kEntryHeight = 21;
 constexpr int kEntryCaption = 26; // Where an entry's caption begins, behind its icon.
 constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+
+constexpr DWORD kPatternOrTarget = 0x00FA0089; // The raster operation "pattern or target".
+
+// Turns every second pixel white.
+void Dim(HDC dc, const RECT& place) {
+    constexpr WORD kChecks[] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
+    const UniqueBitmap pattern(CreateBitmap(8, 8, 1, 1, kChecks));
+    const UniqueBrush brush(CreatePatternBrush(pattern.Get()));
+    const SelectScope selected(dc, brush.Get());
+    // The set bits of a pattern take the background's colour, the others the text's.
+    SetBkColor(dc, RGB(255, 255, 255));
+    SetTextColor(dc, RGB(0, 0, 0));
+    PatBlt(dc, place.left, place.top, place.right - place.left, place.bottom - place.top,
+           kPatternOrTarget);
+}
 
 void DrawFrame(HDC dc, const RECT& place, COLORREF frame, COLORREF face) {
     const UniqueBrush frameBrush(CreateSolidBrush(frame));
@@ -55,18 +67,19 @@ void IconChooser::Create(HWND page, HFONT font, const IconChooserKind& kind, uin
             all |= flag.flag;
         value_ &= all;
     }
-    label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(),
-                           SS_RIGHT | SS_CENTERIMAGE, kind.labelId, {}, font);
+    label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(), SS_RIGHT, kind.labelId,
+                           {}, font);
     if (!CreateStrip(page, kind.id, font) || kind.choice == IconChoice::Set) return;
-    if (marker_.Create(Window())) ShowMarker();
+    if (marker_.Create(Window(), images_)) marker_.Show(EntryFlag(ChosenEntry()));
 }
 
 void IconChooser::Place(const ControlPlace& label, const ControlPlace& buttons) const {
     if (label_) MoveWindow(label_, label.x, label.y, label.width, label.height, TRUE);
     if (!Window()) return;
     MoveWindow(Window(), buttons.x, buttons.y, buttons.width, buttons.height, TRUE);
-    const int side = buttons.height;
-    if (kind_.choice == IconChoice::One) marker_.Place({0, 0, side, side});
+    const int frame = Scale(1);
+    const int side = buttons.height - 2 * frame;
+    if (kind_.choice == IconChoice::One) marker_.Place({frame, frame, side, side});
 }
 
 void IconChooser::Withdraw(uint32_t flag) {
@@ -88,8 +101,7 @@ int IconChooser::ButtonCount() const {
 }
 
 bool IconChooser::IsOffered(int button) const {
-    return kind_.choice == IconChoice::One ||
-           !(withdrawn_ & kind_.flags[static_cast<size_t>(button)].flag);
+    return kind_.choice == IconChoice::One || !(withdrawn_ & EntryFlag(button + 1));
 }
 
 WideString IconChooser::NameOf(int button) const {
@@ -108,34 +120,45 @@ WideString IconChooser::EntryName(int entry) const {
                               : IDS_ICON_NONE);
 }
 
-void IconChooser::ShowMarker() const {
-    const int entry = ChosenEntry();
-    marker_.Show(entry ? kind_.flags[static_cast<size_t>(entry) - 1].bitmap : 0);
+uint32_t IconChooser::EntryFlag(int entry) const {
+    return entry ? kind_.flags[static_cast<size_t>(entry) - 1].flag : 0;
 }
 
-void IconChooser::DrawButton(HDC dc, int button, const RECT& place) const {
+void IconChooser::DrawIcon(HDC dc, uint32_t flag, const RECT& place) {
+    images_.Draw(dc, (place.left + place.right - Scale(kSymbolSize)) / 2,
+                 (place.top + place.bottom - ScaleY(kSymbolSize)) / 2, flag);
+}
+
+void IconChooser::DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) {
     if (kind_.choice == IconChoice::One) {
-        DrawDropDown(dc, place);
+        DrawDropDown(dc, place, hasFocus);
         return;
     }
-    const IconFlag& flag = kind_.flags[static_cast<size_t>(button)];
-    if (value_ & flag.flag) DrawFrame(dc, place, kChosenFrame, kChosenFace);
-    DrawSymbol(dc, flag.bitmap, place, !IsOffered(button));
+    const uint32_t flag = EntryFlag(button + 1);
+    if (value_ & flag) DrawFrame(dc, place, kChosenFrame, kChosenFace);
+    DrawIcon(dc, flag, place);
+    if (!IsOffered(button)) Dim(dc, place);
+    RECT focus = place;
+    InflateRect(&focus, -Scale(2), -ScaleY(2));
+    if (hasFocus) DrawFocusRect(dc, &focus);
 }
 
-void IconChooser::DrawDropDown(HDC dc, const RECT& place) const {
+// Like a drop-down list: what is chosen, behind the marker, and an arrow.
+void IconChooser::DrawDropDown(HDC dc, const RECT& place, bool hasFocus) const {
     DrawFrame(dc, place, kFrame, RGB(255, 255, 255));
     RECT arrow = place;
     arrow.left = place.right - Scale(kArrowWidth);
     DrawArrow(dc, arrow);
-    RECT caption = place;
-    caption.left = place.bottom + Scale(kGap); // Behind the marker, which is a square.
-    caption.right = arrow.left;
+    RECT chosen{place.bottom, Scale(2), arrow.left, place.bottom - Scale(2)};
+    if (hasFocus) FillRect(dc, &chosen, GetSysColorBrush(COLOR_HIGHLIGHT));
+    chosen.left += Scale(kGap);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(hasFocus ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     const SelectScope font(dc, Font());
     const WideString name = NameOf(0);
     // A narrow button shows the icon alone.
-    if (TextWidth(dc, name) <= caption.right - caption.left)
-        DrawText(dc, name.CStr(), -1, &caption, kTextFormat);
+    if (TextWidth(dc, name) <= chosen.right - chosen.left)
+        DrawText(dc, name.CStr(), -1, &chosen, kTextFormat);
 }
 
 void IconChooser::Press(int button) {
@@ -143,18 +166,9 @@ void IconChooser::Press(int button) {
         ChooseFromMenu();
         return;
     }
-    value_ ^= kind_.flags[static_cast<size_t>(button)].flag;
+    value_ ^= EntryFlag(button + 1);
     Redraw();
     SendMessage(GetParent(Window()), kMessageToolbarClick, 0, kind_.code);
-}
-
-void IconChooser::Step(bool forward) {
-    if (kind_.choice == IconChoice::Set) {
-        ButtonStrip::Step(forward);
-        return;
-    }
-    const int entry = ChosenEntry() + (forward ? 1 : -1);
-    if (entry >= 0 && entry <= static_cast<int>(kind_.flags.size())) ChooseEntry(entry);
 }
 
 void IconChooser::ChooseFromMenu() {
@@ -167,15 +181,15 @@ void IconChooser::ChooseFromMenu() {
     HWND window = Window();
     RECT place{};
     GetWindowRect(window, &place);
-    const int command = TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN,
-                                         place.left, place.bottom, window, nullptr);
+    const int command =
+        TrackPopupMenuEx(menu.Get(), TPM_RETURNCMD, place.left, place.bottom, window, nullptr);
     // While the menu was open the page may have been closed, and this chooser with it.
     if (command > 0 && IsWindow(window)) ChooseEntry(command - 1);
 }
 
 void IconChooser::ChooseEntry(int entry) {
-    value_ = entry ? kind_.flags[static_cast<size_t>(entry) - 1].flag : 0;
-    ShowMarker();
+    value_ = EntryFlag(entry);
+    marker_.Show(value_);
     Redraw();
     SendMessage(GetParent(Window()), kMessageToolbarMenuSelect, value_, kind_.code);
 }
@@ -191,14 +205,14 @@ void IconChooser::MeasureEntry(MEASUREITEMSTRUCT& entry) const {
     entry.itemHeight = static_cast<UINT>(ScaleY(kEntryHeight));
 }
 
-void IconChooser::DrawEntry(const DRAWITEMSTRUCT& entry) const {
+void IconChooser::DrawEntry(const DRAWITEMSTRUCT& entry) {
     const int index = static_cast<int>(entry.itemID) - 1;
     const bool isSelected = entry.itemState & ODS_SELECTED;
     FillRect(entry.hDC, &entry.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_MENU));
     RECT icon = entry.rcItem;
     icon.right = icon.left + Scale(kEntryCaption) - Scale(kGap);
     if (index == ChosenEntry()) DrawFrame(entry.hDC, icon, kChosenFrame, kChosenFace);
-    if (index > 0) DrawSymbol(entry.hDC, kind_.flags[static_cast<size_t>(index) - 1].bitmap, icon);
+    DrawIcon(entry.hDC, EntryFlag(index), icon);
     RECT caption = entry.rcItem;
     caption.left += Scale(kEntryCaption);
     const SelectScope font(entry.hDC, Font());

@@ -5,10 +5,16 @@
 #include <cstdint>
 #include <span>
 
-#include "settings/icon_flags.h"
+#include "preview/symbol_images.h"
 #include "ui/button_strip.h"
 #include "ui/controls.h"
 #include "ui/icon_marker.h"
+
+// An icon by its flag, which is also how its image is found, and the text id of its caption.
+struct IconFlag {
+    uint32_t flag;
+    UINT caption;
+};
 
 enum class IconChoice : uint8_t {
     One, // One flag or none, from a drop-down menu; the page is sent kMessageToolbarMenuSelect.
@@ -25,9 +31,9 @@ struct IconChooserKind {
 };
 
 // Chooses among flags that are shown as icons: a label, and a button for each flag or one button
-// that shows the chosen icon and drops a menu of all. By keys: Left and Right go through the
-// buttons or the entries, Enter presses or drops the menu. Holding the pen on a button shows its
-// caption. The object must outlive its windows, which belong to the page.
+// that shows the chosen icon and drops a menu of all. Holding the pen on a button shows its
+// caption. Left and Right do not choose as on a drop-down list: passing over an icon would already
+// withdraw it elsewhere. The object must outlive its windows, which belong to the page.
 class IconChooser final : private ButtonStrip {
   public:
     // In units: a chooser's height, its distance to the one below, and the width of a button.
@@ -54,22 +60,23 @@ class IconChooser final : private ButtonStrip {
     [[nodiscard]] int ButtonCount() const override;
     [[nodiscard]] bool IsOffered(int button) const override;
     [[nodiscard]] WideString NameOf(int button) const override;
-    void DrawButton(HDC dc, int button, const RECT& place) const override;
+    void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) override;
     void Press(int button) override;
-    void Step(bool forward) override;
     void MeasureEntry(MEASUREITEMSTRUCT& entry) const override;
-    void DrawEntry(const DRAWITEMSTRUCT& entry) const override;
+    void DrawEntry(const DRAWITEMSTRUCT& entry) override;
 
     // The entries of the drop-down menu: 0 is none, 1 the first flag.
     [[nodiscard]] int ChosenEntry() const;
     [[nodiscard]] WideString EntryName(int entry) const;
-    void ShowMarker() const;
+    [[nodiscard]] uint32_t EntryFlag(int entry) const;
     void ChooseFromMenu();
     void ChooseEntry(int entry);
-    void DrawDropDown(HDC dc, const RECT& place) const;
+    void DrawIcon(HDC dc, uint32_t flag, const RECT& place);
+    void DrawDropDown(HDC dc, const RECT& place, bool hasFocus) const;
 
     IconChooserKind kind_;
     HWND label_ = nullptr;
+    SymbolImages images_;
     IconMarker marker_; // Of a chooser of one flag.
     uint32_t value_ = 0;
     uint32_t withdrawn_ = 0;

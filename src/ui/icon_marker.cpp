@@ -1,21 +1,11 @@
 #include "ui/icon_marker.h"
 
 #include "shell/services/application.h"
+#include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
-#include "ui/symbol_image.h"
 
 namespace {
 constexpr wchar_t kClass[] = L"IconMarkerClass";
-
-void Paint(HWND window) {
-    PAINTSTRUCT paint;
-    HDC dc = BeginPaint(window, &paint);
-    RECT client{};
-    GetClientRect(window, &client);
-    const auto bitmap = static_cast<UINT>(GetWindowLongPtr(window, GWLP_USERDATA));
-    if (bitmap) DrawSymbol(dc, bitmap, client);
-    EndPaint(window, &paint);
-}
 
 LRESULT PassToParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
@@ -23,33 +13,55 @@ LRESULT PassToParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     MapWindowPoints(window, parent, &point, 1);
     return SendMessage(parent, message, wParam, MAKELPARAM(point.x, point.y));
 }
-
-LRESULT CALLBACK MarkerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_PAINT:
-        Paint(window);
-        return 0;
-    case WM_LBUTTONDOWN:
-    case WM_MOUSEMOVE:
-        return PassToParent(window, message, wParam, lParam);
-    default:
-        return DefWindowProc(window, message, wParam, lParam);
-    }
-}
 } // namespace
 
-bool IconMarker::Create(HWND parent) {
-    RegisterWindowClass(application.instance, MarkerProc, nullptr, kClass, WHITE_BRUSH);
-    window_ = CreateControl(parent, kClass, L"", WS_BORDER, 0, {}, nullptr);
-    return window_ != nullptr;
+IconMarker::~IconMarker() {
+    if (window_) SetWindowLongPtr(window_, GWLP_USERDATA, 0);
+}
+
+bool IconMarker::Create(HWND parent, SymbolImages& images) {
+    RegisterWindowClass(application.instance, WindowProc, nullptr, kClass, WHITE_BRUSH);
+    images_ = &images;
+    window_ = CreateControl(parent, kClass, L"", 0, 0, {}, nullptr);
+    if (!window_) return false;
+    SetWindowLongPtr(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    return true;
 }
 
 void IconMarker::Place(const ControlPlace& place) const {
     if (window_) MoveWindow(window_, place.x, place.y, place.width, place.height, TRUE);
 }
 
-void IconMarker::Show(UINT bitmap) const {
-    if (!window_) return;
-    SetWindowLongPtr(window_, GWLP_USERDATA, static_cast<LONG_PTR>(bitmap));
-    InvalidateRect(window_, nullptr, TRUE);
+void IconMarker::Show(uint32_t flag) {
+    flag_ = flag;
+    if (window_) InvalidateRect(window_, nullptr, TRUE);
+}
+
+void IconMarker::Paint() {
+    PAINTSTRUCT paint;
+    HDC dc = BeginPaint(window_, &paint);
+    RECT client{};
+    GetClientRect(window_, &client);
+    images_->Draw(dc, (client.right - Scale(kSymbolSize)) / 2,
+                  (client.bottom - ScaleY(kSymbolSize)) / 2, flag_);
+    EndPaint(window_, &paint);
+}
+
+LRESULT CALLBACK IconMarker::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* marker = reinterpret_cast<IconMarker*>(GetWindowLongPtr(window, GWLP_USERDATA));
+    if (!marker) return DefWindowProc(window, message, wParam, lParam);
+    switch (message) {
+    case WM_PAINT:
+        marker->Paint();
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_MOUSEMOVE:
+        return PassToParent(window, message, wParam, lParam);
+    case WM_DESTROY:
+        marker->window_ = nullptr;
+        SetWindowLongPtr(window, GWLP_USERDATA, 0);
+        return 0;
+    default:
+        return DefWindowProc(window, message, wParam, lParam);
+    }
 }

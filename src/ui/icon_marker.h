@@ -2,18 +2,32 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
+#include "preview/symbol_images.h"
 #include "ui/controls.h"
 
-// A small framed window that shows which icon is chosen. Taps on it are its parent's.
+// A small window that shows which icon is chosen. Taps on it are its parent's.
 class IconMarker {
   public:
-    // Makes the window, at no place yet; false when the platform refuses. It goes with its parent.
-    bool Create(HWND parent);
+    IconMarker() = default;
+    IconMarker(const IconMarker&) = delete;
+    IconMarker& operator=(const IconMarker&) = delete;
+    ~IconMarker();
+
+    // Makes the window, at no place yet; false when the platform refuses. It goes with its parent;
+    // the images must outlive it.
+    bool Create(HWND parent, SymbolImages& images);
     // In pixels of the parent.
     void Place(const ControlPlace& place) const;
-    // The number of a bitmap of the display library; 0 shows an empty frame.
-    void Show(UINT bitmap) const;
+    // An icon's flag; what is none shows nothing.
+    void Show(uint32_t flag);
 
   private:
+    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void Paint();
+
     HWND window_ = nullptr;
+    SymbolImages* images_ = nullptr;
+    uint32_t flag_ = 0;
 };

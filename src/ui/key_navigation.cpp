@@ -142,6 +142,10 @@ bool OnLeftOrRight(HWND root, HWND control, HWND focus, bool forward) {
         if (focus != control) return false; // The keys move the caret of its edit field.
         StepCombo(root, control, forward);
         return true;
+    case ControlKind::ButtonStrip:
+        if (!SendMessage(control, kMessageStepButton, forward, 0))
+            MoveFocus(root, control, forward);
+        return true;
     case ControlKind::Button:
         MoveFocus(root, control, forward);
         return true;

@@ -28,6 +28,10 @@ class TitleScope {
 
 void ModalWindow::OnNotify(HWND, const NMHDR&) {}
 
+bool ModalWindow::OnKey(HWND, const MSG&) {
+    return false;
+}
+
 void ModalWindow::Layout(HWND) {}
 
 void ModalWindow::OnPaint(HWND, HDC) {}
@@ -70,7 +74,8 @@ void ModalWindow::RunLoop() {
         }
         if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
             SendMessage(window_, WM_COMMAND, IDCANCEL, 0);
-        else if (!TranslateNavigationKey(window_, message)) {
+        else if (!(message.message == WM_KEYDOWN && OnKey(window_, message)) &&
+                 !TranslateNavigationKey(window_, message)) {
             TranslateMessage(&message);
             DispatchMessage(&message);
         }

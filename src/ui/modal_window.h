@@ -23,6 +23,9 @@ class ModalWindow {
     virtual void CreateControls(HWND window) = 0;
     virtual void OnCommand(HWND window, UINT id, UINT notification) = 0;
     virtual void OnNotify(HWND window, const NMHDR& header);
+    // A key pressed in one of the window's controls, before the navigation keys see it; false to
+    // let it go on.
+    virtual bool OnKey(HWND window, const MSG& message);
     // Places the controls after the window's size changed.
     virtual void Layout(HWND window);
     virtual void OnPaint(HWND window, HDC dc);

@@ -1,6 +1,7 @@
 #include "ui/option_detail_panel.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "resource_ids.h"
 #include "shell/services/handles.h"
@@ -21,15 +22,40 @@ constexpr int kButtonWidth = 40;
 constexpr int kButtonPitch = 45;
 constexpr int kEntryMargins = 8;
 
-int TextWidth(HDC dc, HWND combo, WPARAM entry) {
-    const LRESULT length = SendMessage(combo, CB_GETLBTEXTLEN, entry, 0);
-    constexpr LRESULT kLongest = 255;
-    wchar_t buffer[kLongest + 1];
-    if (length < 0 || length > kLongest) return 0;
-    SendMessage(combo, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(buffer));
+int TextWidth(HDC dc, const WideString& text) {
     SIZE size{};
-    GetTextExtentExPoint(dc, buffer, static_cast<int>(length), 0, nullptr, nullptr, &size);
+    GetTextExtentExPoint(dc, text.CStr(), static_cast<int>(text.Length()), 0, nullptr, nullptr,
+                         &size);
     return size.cx;
+}
+
+WideString EntryText(HWND combo, WPARAM entry) {
+    const LRESULT length = SendMessage(combo, CB_GETLBTEXTLEN, entry, 0);
+    if (length <= 0) return {};
+    std::vector<wchar_t> buffer(static_cast<size_t>(length) + 1);
+    SendMessage(combo, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(buffer.data()));
+    return WideString(buffer.data());
+}
+
+int LongestEntry(HDC dc, HWND combo) {
+    int longest = 0;
+    const auto count = static_cast<WPARAM>(SendMessage(combo, CB_GETCOUNT, 0, 0));
+    for (WPARAM entry = 0; entry < count; ++entry)
+        longest = std::max(longest, TextWidth(dc, EntryText(combo, entry)));
+    return longest;
+}
+
+// Calls `measure` with a device context in which the font is selected.
+template <typename Measure>
+int Measured(HWND window, HFONT font, Measure measure) {
+    HDC dc = GetDC(window);
+    int pixels = 0;
+    {
+        const SelectScope selected(dc, font);
+        pixels = measure(dc);
+    }
+    ReleaseDC(window, dc);
+    return pixels;
 }
 } // namespace
 
@@ -76,15 +102,28 @@ void OptionDetailPanel::Place() const {
     const int firstButton = lastButton - Scale(kButtonPitch);
     const int gap = Scale(kMargin);
     PlaceControl(Control(Tip), {left, top, width - 2 * left, ScaleY(kTipHeight)});
-    PlaceControl(Control(ComboLabel), {0, value + ScaleY(kLabelDrop), Scale(kLabelWidth), height});
-    PlaceControl(Control(ComboBox), {Scale(kComboLeft), value, width - Scale(kComboLeft) - left,
-                                     ScaleY(kComboDropHeight)});
+    PlaceCombo(width);
     PlaceControl(Control(CheckBox), {left, value, width - 2 * left, height});
     PlaceControl(Control(PathEdit), {left, value, firstButton - gap - left, height});
     PlaceControl(Control(PathClear), {firstButton, value, button, height});
     PlaceControl(Control(PathBrowse), {lastButton, value, button, height});
     PlaceControl(Control(TextEdit), {left, value, lastButton - gap - left, height});
     PlaceControl(Control(TextClear), {lastButton, value, button, height});
+}
+
+// `width` is the page's, in pixels.
+void OptionDetailPanel::PlaceCombo(int width) const {
+    const int value = ScaleY(top_ + kValueTop);
+    const int right = width - Scale(kMargin);
+    const int gap = Scale(kComboLeft - kLabelWidth);
+    const WideString label = ControlText(Control(ComboLabel));
+    const int labelWidth =
+        Measured(page_, font_, [&label](HDC dc) { return TextWidth(dc, label); });
+    const int left = std::min(Scale(kComboLeft),
+                              std::max(Scale(kMargin) + labelWidth + gap, right - entriesWidth_));
+    PlaceControl(Control(ComboLabel),
+                 {0, value + ScaleY(kLabelDrop), left - gap, ScaleY(kValueHeight)});
+    PlaceControl(Control(ComboBox), {left, value, right - left, ScaleY(kComboDropHeight)});
 }
 
 void OptionDetailPanel::Hide() const {
@@ -99,7 +138,7 @@ void OptionDetailPanel::ShowCheck(const wchar_t* label, const wchar_t* tip, bool
     Show(CheckBox, CheckBox);
 }
 
-HWND OptionDetailPanel::ShowCombo(const wchar_t* label, const wchar_t* tip) const {
+HWND OptionDetailPanel::ShowCombo(const wchar_t* label, const wchar_t* tip) {
     SetPartText(Tip, tip);
     SetPartText(ComboLabel, label);
     SendMessage(Combo(), CB_RESETCONTENT, 0, 0);
@@ -107,24 +146,18 @@ HWND OptionDetailPanel::ShowCombo(const wchar_t* label, const wchar_t* tip) cons
     return Combo();
 }
 
-void OptionDetailPanel::FitEntries() const {
-    HWND combo = Combo();
-    HDC dc = GetDC(combo);
-    int longest = 0;
-    {
-        const SelectScope font(dc, font_);
-        const auto count = static_cast<WPARAM>(SendMessage(combo, CB_GETCOUNT, 0, 0));
-        for (WPARAM entry = 0; entry < count; ++entry)
-            longest = std::max(longest, TextWidth(dc, combo, entry));
-    }
-    ReleaseDC(combo, dc);
-    const int width = longest + GetSystemMetrics(SM_CXVSCROLL) + Scale(kEntryMargins);
-    SendMessage(combo, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
+void OptionDetailPanel::FitEntries() {
+    const int longest =
+        Measured(page_, font_, [combo = Combo()](HDC dc) { return LongestEntry(dc, combo); });
+    entriesWidth_ = longest + GetSystemMetrics(SM_CXVSCROLL) + Scale(kEntryMargins);
+    RECT client{};
+    GetClientRect(page_, &client);
+    PlaceCombo(client.right);
 }
 
 void OptionDetailPanel::ShowPath(const wchar_t* tip, const wchar_t* path) const {
     SetPartText(Tip, tip);
-    SetPath(path);
+    SetPartText(PathEdit, path);
     Show(Tip, Tip);
     Show(PathEdit, PathBrowse);
 }
@@ -152,13 +185,9 @@ WideString OptionDetailPanel::Text() const {
     return ControlText(Control(TextEdit), kTextLimit);
 }
 
-void OptionDetailPanel::SetPath(const wchar_t* path) const {
-    SetPartText(PathEdit, path);
-}
-
 bool OptionDetailPanel::OnButton(UINT id) const {
     if (id == firstId_ + PathClear)
-        SetPath(L"");
+        SetPartText(PathEdit, L"");
     else if (id == firstId_ + TextClear)
         SetPartText(TextEdit, L"");
     else
@@ -168,6 +197,10 @@ bool OptionDetailPanel::OnButton(UINT id) const {
 
 UINT OptionDetailPanel::BrowseId() const {
     return firstId_ + PathBrowse;
+}
+
+HWND OptionDetailPanel::PathField() const {
+    return Control(PathEdit);
 }
 
 HWND OptionDetailPanel::Control(Part part) const {

@@ -21,9 +21,10 @@ class OptionDetailPanel {
 
     void ShowCheck(const wchar_t* label, const wchar_t* tip, bool checked) const;
     // Shows the drop-down list, emptied; the caller fills it and ends with FitEntries.
-    HWND ShowCombo(const wchar_t* label, const wchar_t* tip) const;
-    // Makes the open list as wide as its longest entry.
-    void FitEntries() const;
+    HWND ShowCombo(const wchar_t* label, const wchar_t* tip);
+    // Widens the drop-down list to its left, as far as its label leaves room, where its entries are
+    // longer than the list is wide.
+    void FitEntries();
     void ShowPath(const wchar_t* tip, const wchar_t* path) const;
     void ShowText(const wchar_t* tip, const wchar_t* text) const;
 
@@ -31,12 +32,13 @@ class OptionDetailPanel {
     [[nodiscard]] HWND Combo() const;
     [[nodiscard]] WideString Path() const;
     [[nodiscard]] WideString Text() const;
-    void SetPath(const wchar_t* path) const;
 
     // A click on one of the panel's buttons: clearing is done here and true the answer.
     bool OnButton(UINT id) const;
-    // The button that browses for a path; what it opens is the page's business.
+    // The button that browses for a path, and the edit field that shows the path; what is opened is
+    // the page's business.
     [[nodiscard]] UINT BrowseId() const;
+    [[nodiscard]] HWND PathField() const;
 
   private:
     // In the order of their ids.
@@ -53,6 +55,7 @@ class OptionDetailPanel {
     };
 
     [[nodiscard]] HWND Control(Part part) const;
+    void PlaceCombo(int width) const;
     void SetPartText(Part part, const wchar_t* text) const;
     void Show(Part first, Part last) const;
 
@@ -60,4 +63,5 @@ class OptionDetailPanel {
     HFONT font_ = nullptr;
     UINT firstId_ = 0;
     int top_ = 0;
+    int entriesWidth_ = 0; // Pixels that the combo box needs for its entries.
 };

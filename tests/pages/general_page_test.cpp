@@ -5,12 +5,7 @@
 #include <string>
 
 #include "platform/include/stand_in.h"
-#include "settings/settings_store.h"
-#include "shell/page_factory.h"
-#include "shell/services/application.h"
-#include "shell/services/scaling.h"
-#include "tests/support/registry_fixture.h"
-#include "tests/support/window_support.h"
+#include "tests/support/page_fixture.h"
 
 namespace {
 constexpr wchar_t kProgramFiles[] = L"\\GeneralPageTest";
@@ -27,49 +22,27 @@ void CopyInstalled(const wchar_t* from, const wchar_t* to) {
         << from;
 }
 
-// The page over a main window of the screen's size, with its own language folder.
-class GeneralPageTest : public RegistryFixture {
+// The page with its own language folder.
+class GeneralPageTest : public PageFixture {
   protected:
+    GeneralPageTest() : PageFixture(0) {}
+
     void SetUp() override {
-        RegistryFixture::SetUp();
-        application.instance = GetModuleHandle(nullptr);
+        PageFixture::SetUp();
         CreateDirectory(kProgramFiles, nullptr);
         CreateDirectory(L"\\GeneralPageTest\\Teskel", nullptr);
         CreateDirectory(L"\\GeneralPageTest\\Teskel\\Orvane", nullptr);
         CreateDirectory(kLanguageFolder, nullptr);
         SetText(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Orvane", L"ProgramFiles",
                 kProgramFiles);
-        owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
-                                Scale(268), nullptr, nullptr, application.instance, nullptr);
     }
 
     void TearDown() override {
-        DestroyWindow(owner_);
-        if (application.languageLibrary) FreeLibrary(application.languageLibrary);
-        application.languageLibrary = nullptr;
+        PageFixture::TearDown();
         for (const wchar_t* name : {L"Aaa.dll", L"Bbb.dll", L"Ccc.dll"})
             DeleteFile(InLanguageFolder(name).c_str());
         StandInSetOsVersion(0, 0);
-        RegistryFixture::TearDown();
     }
-
-    // Loads the store as at start, opens the page, and gives its window.
-    HWND Open() {
-        settingsStore.Load(application.languageLibrary);
-        page_.reset(CreatePage(owner_, 0));
-        EXPECT_TRUE(page_ && page_->hwnd);
-        return page_->hwnd;
-    }
-
-    void Close() {
-        ClosePage(*page_);
-        page_.reset();
-    }
-
-    bool IsEnabled(int id) const { return IsWindowEnabled(GetDlgItem(page_->hwnd, id)); }
-
-    HWND owner_ = nullptr;
-    std::unique_ptr<SettingsPage> page_;
 };
 
 std::wstring dialogTitle;
@@ -168,7 +141,7 @@ TEST_F(GeneralPageTest, ShowsOneTabAtATime) {
     HWND window = Open();
     const int oneOfEachTab[] = {1206, 1217, 1222, 1225, 1234};
     for (int tab = 0; tab < 5; ++tab) {
-        SendMessage(page_->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+        ShowTab(tab);
         for (int other = 0; other < 5; ++other) {
             EXPECT_EQ(IsWindowVisible(GetDlgItem(window, oneOfEachTab[other])), tab == other)
                 << tab;

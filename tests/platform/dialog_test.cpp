@@ -126,7 +126,7 @@ TEST(DialogTest, FocusReturnsToTheControlThatHadIt) {
     EXPECT_EQ(GetFocus(), program.window);
 }
 
-// One red pixel, as a .bmp and as a .png file.
+// One red pixel, as a .bmp, a .png and a .gif file.
 constexpr std::string_view kBmp{
     "BM\x3A\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x01\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x04\0\0\0"
     "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\xFF\0",
@@ -135,6 +135,8 @@ constexpr std::string_view kPng{
     "\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\x01\0\0\0\x01\x08\x02\0\0\0\x90wS\xDE\0\0\0\x0CIDATx\x9C"
     "\x63\xF8\xCF\xC0\0\0\x03\x01\x01\0\xC9\xFE\x92\xEF\0\0\0\0IEND\xAE\x42\x60\x82",
     69};
+constexpr std::string_view kGif{
+    "GIF89a\x01\0\x01\0\x80\0\0\xFF\0\0\0\0\0,\0\0\0\0\x01\0\x01\0\0\x02\x02\x44\x01\0;", 35};
 
 COLORREF FirstPixel(HBITMAP bitmap) {
     const HDC memory = CreateCompatibleDC(nullptr);
@@ -146,7 +148,7 @@ COLORREF FirstPixel(HBITMAP bitmap) {
 }
 
 TEST(ImageFileTest, LoadsPicturesAndRefusesTheRest) {
-    for (const std::string_view bytes : {kBmp, kPng}) {
+    for (const std::string_view bytes : {kBmp, kPng, kGif}) {
         const TempFile file(L"picture");
         file.Write(bytes);
         const HBITMAP bitmap = SHLoadImageFile(file.Path());

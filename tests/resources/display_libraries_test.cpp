@@ -25,6 +25,7 @@ struct Strip {
 };
 constexpr Strip kPageListStrip = {IDB_PAGE_LIST, 12, 32, 0x00FF00};
 constexpr Strip kMenuBarStrip = {IDB_MENU_BAR, 2, 16, 0xC6CFDE};
+constexpr Strip kFileStrip = {IDB_FILE_IMAGES, 2, 20, 0x00FF00};
 
 constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr COLORREF kRed = 0x0000FF;
@@ -121,6 +122,7 @@ TEST(DisplayLibraries, HoldTheirArtAtTheirDensity) {
         ASSERT_TRUE(library);
         CheckStrip(library.Get(), kPageListStrip, scale);
         CheckStrip(library.Get(), kMenuBarStrip, scale);
+        CheckStrip(library.Get(), kFileStrip, scale);
 
         // Cancel, a red cross, comes before OK, a green tick.
         const Picture menuBar(library.Get(), IDB_MENU_BAR);

@@ -4,10 +4,6 @@
 
 namespace {
 
-std::wstring PathOfThisProcess() {
-    return L"Software\\OVOptions tests\\" + std::to_wstring(GetCurrentProcessId());
-}
-
 UniqueKey Open(HKEY root, const std::wstring& path) {
     UniqueKey key;
     RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, key.Receive());
@@ -67,14 +63,21 @@ void AddTree(HKEY key, const std::wstring& path, RegistryTree& tree) {
 
 } // namespace
 
-void RegistryFixture::SetUp() {
-    const std::wstring path = PathOfThisProcess();
-    // What a process of the same number left when it crashed.
-    RegDeleteKeyW(HKEY_CURRENT_USER, path.c_str());
+std::wstring RegistryOfThisProcess() {
+    return L"Software\\OVOptions tests\\" + std::to_wstring(GetCurrentProcessId());
+}
+
+void ShareRegistry(const std::wstring& path) {
     const UniqueKey user = Create(HKEY_CURRENT_USER, path + L"\\User");
     const UniqueKey machine = Create(HKEY_CURRENT_USER, path + L"\\Machine");
-    ASSERT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, user.Get()), ERROR_SUCCESS);
-    ASSERT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, machine.Get()), ERROR_SUCCESS);
+    EXPECT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, user.Get()), ERROR_SUCCESS);
+    EXPECT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, machine.Get()), ERROR_SUCCESS);
+}
+
+void RegistryFixture::SetUp() {
+    // What a process of the same number left when it crashed.
+    RegDeleteKeyW(HKEY_CURRENT_USER, RegistryOfThisProcess().c_str());
+    ShareRegistry(RegistryOfThisProcess());
     ASSERT_TRUE(GetTree(HKEY_CURRENT_USER).empty());
     ASSERT_TRUE(GetTree(HKEY_LOCAL_MACHINE).empty());
 }
@@ -83,7 +86,7 @@ void RegistryFixture::TearDown() {
     RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
     RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
     // The device's call, which takes what is below along.
-    EXPECT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, PathOfThisProcess().c_str()), ERROR_SUCCESS);
+    EXPECT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, RegistryOfThisProcess().c_str()), ERROR_SUCCESS);
 }
 
 void SetValue(HKEY root, const std::wstring& path, const std::wstring& name, DWORD type,

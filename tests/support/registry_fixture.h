@@ -43,3 +43,7 @@ bool HasValue(HKEY root, const std::wstring& path, const std::wstring& name);
 bool HasKey(HKEY root, const std::wstring& path);
 
 RegistryTree GetTree(HKEY root);
+
+// Where the fixture's registry really is, and how another process comes to share it.
+std::wstring RegistryOfThisProcess();
+void ShareRegistry(const std::wstring& path);

@@ -69,11 +69,12 @@ LRESULT CALLBACK MessageBoxAnswer::OnHook(int code, WPARAM wParam, LPARAM lParam
     constexpr int kTextId = 0xFFFF;
     HWND box = reinterpret_cast<HWND>(wParam);
     HWND text = code == HCBT_ACTIVATE ? GetDlgItem(box, kTextId) : nullptr;
-    if (text && GetDlgItem(box, currentAnswer->button_)) {
+    if (text) {
+        const int button = GetDlgItem(box, currentAnswer->button_) ? currentAnswer->button_ : IDOK;
         ++currentAnswer->count;
         currentAnswer->caption = TextOf(box);
         currentAnswer->text = TextOf(text);
-        PostMessage(box, WM_COMMAND, static_cast<WPARAM>(currentAnswer->button_), 0);
+        PostMessage(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

@@ -1,34 +1,18 @@
 #include "ui/folder_dialog.h"
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "shell/services/application.h"
+#include "tests/support/dialog_steps.h"
 #include "tests/support/window_support.h"
 
 namespace {
 constexpr int kPathText = 100;
 constexpr int kUpButton = 101;
 constexpr int kFolderList = 102;
-
-std::vector<std::function<void(HWND)>> steps;
-
-// Works the dialog from inside its own loop, one step at each turn of the timer.
-void CALLBACK NextStep(HWND, UINT, UINT_PTR timer, DWORD) {
-    HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
-    if (steps.empty() || !dialog) {
-        KillTimer(nullptr, timer);
-        if (dialog) PostMessage(dialog, WM_COMMAND, IDCANCEL, 0); // A test must not hang.
-        return;
-    }
-    const auto step = steps.front();
-    steps.erase(steps.begin());
-    step(dialog);
-}
 
 class FolderDialogTest : public testing::Test {
   protected:
@@ -53,10 +37,8 @@ class FolderDialogTest : public testing::Test {
     }
 
     // Runs the dialog through the given steps; a dialog left open is cancelled.
-    bool Run(std::vector<std::function<void(HWND)>> with, const wchar_t* start,
-             std::wstring& chosen) {
-        steps = std::move(with);
-        SetTimer(nullptr, 0, 20, NextStep);
+    bool Run(std::vector<DialogSteps::Step> steps, const wchar_t* start, std::wstring& chosen) {
+        const DialogSteps work(L"SelectFolderWin", std::move(steps));
         WideString path(start);
         const bool confirmed = SelectFolder(owner_, L"Select Folder", path);
         chosen = path.CStr();
@@ -68,22 +50,6 @@ class FolderDialogTest : public testing::Test {
     HWND owner_ = nullptr;
 };
 
-std::wstring RowsOf(HWND dialog) {
-    HWND list = GetDlgItem(dialog, kFolderList);
-    std::wstring rows;
-    const LRESULT count = SendMessage(list, LVM_GETITEMCOUNT, 0, 0);
-    for (LRESULT row = 0; row < count; ++row) {
-        wchar_t text[MAX_PATH] = L"";
-        LVITEM item{};
-        item.pszText = text;
-        item.cchTextMax = MAX_PATH;
-        SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row),
-                    reinterpret_cast<LPARAM>(&item));
-        rows += (row ? L"|" : L"") + std::wstring(text);
-    }
-    return rows;
-}
-
 void PressInList(HWND dialog, WPARAM key) {
     SendDlgItemMessage(dialog, kFolderList, WM_KEYDOWN, key, 0);
 }
@@ -94,11 +60,12 @@ TEST_F(FolderDialogTest, WalksDownAndUpAndTakesTheFolderShown) {
     std::wstring shown;
     std::wstring deeper;
     EXPECT_TRUE(Run({[&](HWND dialog) {
-                         rows = RowsOf(dialog);
+                         rows = RowsOf(GetDlgItem(dialog, kFolderList));
                          shown = TextOf(GetDlgItem(dialog, kPathText));
                          PressInList(dialog, VK_DOWN);
                          PressInList(dialog, VK_RETURN);
-                         deeper = TextOf(GetDlgItem(dialog, kPathText)) + L":" + RowsOf(dialog);
+                         deeper = TextOf(GetDlgItem(dialog, kPathText)) + L":" +
+                                  RowsOf(GetDlgItem(dialog, kFolderList));
                          PressInList(dialog, VK_RETURN);
                          Tap(dialog, kUpButton);
                      },

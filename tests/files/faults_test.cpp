@@ -1,0 +1,239 @@
+// The device's registry and files fail, one call at a time, and its battery runs out.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "files/category_store.h"
+#include "files/file_stream.h"
+#include "files/scheme_files.h"
+#include "files/settings_backup.h"
+#include "settings/settings_store.h"
+#include "tests/settings/every_setting.h"
+#include "tests/settings/store_fixture.h"
+#include "tests/support/install_folder.h"
+
+namespace {
+
+constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
+// A key that the platform fails to close stays open, whatever the program does.
+constexpr ULONG kAllCalls = (kRegistryCalls | kFileCalls) & ~kRegCloseKeyCalls;
+
+// A handle's value tells how many are open below it.
+size_t LowestFreeHandle() {
+    HANDLE event = CreateEvent(nullptr, FALSE, FALSE, nullptr);
+    const auto value = reinterpret_cast<size_t>(event);
+    CloseHandle(event);
+    return value;
+}
+
+class FaultsTest : public StoreFixture {
+  protected:
+    void SetUp() override {
+        StoreFixture::SetUp();
+        folder_.emplace();
+        folder_->SetCategories("1\t0\tHome\n2\t0\tWork\n");
+        SetText(HKEY_CURRENT_USER, std::wstring(kTabs) + L"\\Weather", L"DLL", L"weather.dll");
+        LoadInto(settingsStore);
+        store_.LoadCategoryStore();
+        SetUserNumber(kTasks, L"TsksDateFrmt", 5);
+        SetUserNumber(L"Software\\Teskel\\Orvane\\Colors", L"HighlightBgClr", 5);
+        CreateDirectory(folder_->PathOf(L"Schemes").c_str(), nullptr);
+        backup_ = folder_->PathOf(L"Backup.ovsb");
+    }
+    void TearDown() override {
+        folder_.reset();
+        StoreFixture::TearDown();
+    }
+
+    // Does `work` over and over, each time with another one of its calls failing (from 1; at first,
+    // as 0, with none), and then checks what came of it.
+    void FailEachCall(ULONG calls, const std::function<void()>& prepare,
+                      const std::function<void()>& work,
+                      const std::function<void(ULONG nth)>& check) {
+        ULONG count = 0;
+        for (ULONG nth = 0; nth <= count; ++nth) {
+            prepare();
+            const size_t handle = LowestFreeHandle();
+            StandInResetCalls();
+            StandInFailCall(calls, nth, ERROR_ACCESS_DENIED);
+            work();
+            if (nth == 0) count = StandInCallCount(calls);
+            StandInResetCalls();
+            ASSERT_TRUE(nth == 0 || LowestFreeHandle() == handle)
+                << "left open when call " << nth << " failed";
+            check(nth);
+        }
+        EXPECT_GT(count, 0U);
+    }
+
+    void Export() const {
+        RewriteFile(backup_.c_str(), [this](ByteSink& file) { WriteBackup(store_, file); });
+    }
+    bool Import() {
+        FileSource file(backup_.c_str());
+        return file.IsOpen() && ReadBackup(file, store_);
+    }
+
+    std::optional<InstallFolder> folder_;
+    CategoryStore store_;
+    std::wstring backup_;
+};
+
+TEST_F(FaultsTest, LoadingGivesWhatItCanRead) {
+    FailEachCall(
+        kAllCalls, [] {},
+        [this] {
+            LoadInto(settingsStore);
+            store_.LoadCategoryStore();
+            languageLibrary_.Reset(); // Another one may be found when a path cannot be read.
+        },
+        [this](ULONG nth) {
+            EXPECT_EQ(store_.All().size(), 2U) << nth;
+            EXPECT_EQ(settingsStore.NoteZoom.value, 100U) << nth;
+        });
+}
+
+TEST_F(FaultsTest, SavingDropsWhatItCannotWrite) {
+    const auto prepare = [] {
+        ForEachRow([](const SettingTable&, const SettingRow& row) {
+            std::visit(SetOther{settingsStore}, row.what);
+        });
+        SetUserNumber(kRoot, L"OnClick", 0);
+        SetUserNumber(kTasks, L"TsksDateFrmt", 0);
+    };
+    const auto work = [this] {
+        settingsStore.Save();
+        store_.SaveCategoryRegistry();
+        store_.SaveFilterFile();
+    };
+    FailEachCall(kAllCalls, prepare, work, [](ULONG nth) {
+        const bool oneOfTwoKeys = GetUserNumber(kRoot, L"OnClick") == 1U ||
+                                  GetUserNumber(kTasks, L"TsksDateFrmt") == 4U;
+        EXPECT_TRUE(oneOfTwoKeys) << nth;
+    });
+}
+
+TEST_F(FaultsTest, ExportingKeepsTheOldBackupUntilTheNewOneIsComplete) {
+    Export();
+    const std::string complete = *folder_->Read(L"Backup.ovsb");
+    const auto check = [&](ULONG nth) {
+        const auto read = folder_->Read(L"Backup.ovsb");
+        ASSERT_TRUE(read.has_value()) << nth;
+        EXPECT_EQ(read->substr(0, 4), "\r\n[S") << nth;
+        EXPECT_TRUE(read->ends_with("\"Index\"=dword:32\r\n\"VisibleState\"=dword:1\r\n"
+                                    "\"IncludeUncategorized\"=dword:0\r\n"))
+            << nth;
+        EXPECT_FALSE(folder_->Has(L"Backup.ovsb.new")) << nth;
+    };
+    const ULONG files = kCreateFileCalls | kWriteFileCalls | kDeleteFileCalls;
+    FailEachCall(kAllCalls & kRegistryCalls, [] {}, [this] { Export(); }, check);
+    FailEachCall(files, [] {}, [this] { Export(); }, check);
+    EXPECT_EQ(folder_->Read(L"Backup.ovsb"), complete);
+}
+
+TEST_F(FaultsTest, ImportingFailsForKeysAndTheFirstLineAlone) {
+    Export();
+    const RegistryTree before = GetTree(HKEY_CURRENT_USER);
+    const auto prepare = [] { SetUserNumber(kCalendar, L"not in the backup", 1); };
+    bool imported = false;
+    const auto work = [&] { imported = Import(); };
+    const auto fails = [&](ULONG nth) { EXPECT_EQ(imported, nth == 0) << nth; };
+    FailEachCall(kRegCreateKeyCalls, prepare, work, fails);
+    FailEachCall(kCreateFileCalls | kSetFilePointerCalls, prepare, work, fails);
+    FailEachCall(kAllCalls & kRegistryCalls & ~kRegCreateKeyCalls, prepare, work,
+                 [&](ULONG nth) { EXPECT_TRUE(imported) << nth; });
+    FailEachCall(kReadFileCalls, prepare, work, [&](ULONG nth) { EXPECT_EQ(imported, nth != 1); });
+    EXPECT_TRUE(Import());
+    EXPECT_EQ(GetTree(HKEY_CURRENT_USER), before);
+}
+
+TEST_F(FaultsTest, SchemesAreWholeOrNotThere) {
+    const auto write = [this] { WriteScheme(L"New", store_); };
+    FailEachCall(kFileCalls, [] { DeleteSchemeFile(L"New.scm"); }, write, [this](ULONG nth) {
+        const auto read = folder_->Read(L"Schemes\\New.scm");
+        EXPECT_TRUE(!read || read->ends_with("\"Color\"=dword:-1\r\n")) << nth;
+        EXPECT_TRUE(read || nth != 0);
+    });
+    write();
+    SchemeOutcome outcome{};
+    const auto read = [&] { outcome = ReadScheme(L"New.scm", store_); };
+    FailEachCall(kCreateFileCalls, [] {}, read, [&](ULONG nth) {
+        EXPECT_EQ(outcome, nth == 0 ? SchemeOutcome::Read : SchemeOutcome::CannotOpen);
+    });
+    FailEachCall(kAllCalls, [] {}, read, [](ULONG) {});
+    read();
+    EXPECT_EQ(outcome, SchemeOutcome::Read);
+}
+
+// --- The battery ----------------------------------------------------------------------------------
+
+constexpr wchar_t kRegistryVariable[] = L"OV_TEST_REGISTRY";
+constexpr wchar_t kWriteVariable[] = L"OV_TEST_WRITE";
+
+// In a process of its own: saves everything, and ends in the midst of it.
+TEST(BatteryTest, DISABLED_SavesUntilItRunsOut) {
+    wchar_t path[256] = L"";
+    wchar_t nth[16] = L"";
+    ASSERT_GT(GetEnvironmentVariableW(kRegistryVariable, path, 256), 0U);
+    GetEnvironmentVariableW(kWriteVariable, nth, 16);
+    ShareRegistry(path);
+    HMODULE library = nullptr;
+    settingsStore.Load(library);
+    ForEachRow([](const SettingTable&, const SettingRow& row) {
+        std::visit(SetOther{settingsStore}, row.what);
+    });
+    StandInExitAtCall(kRegSetValueCalls, std::stoul(nth));
+    settingsStore.Save();
+    FAIL() << "it goes on without power";
+}
+
+// Runs the test above; gives its process's exit code.
+DWORD RunOut(ULONG nth) {
+    wchar_t program[MAX_PATH] = L"";
+    GetModuleFileName(nullptr, program, MAX_PATH);
+    std::wstring command = L"\"" + std::wstring(program) +
+                           L"\" --gtest_also_run_disabled_tests --gtest_brief=1"
+                           L" --gtest_filter=BatteryTest.*";
+    SetEnvironmentVariableW(kRegistryVariable, RegistryOfThisProcess().c_str());
+    SetEnvironmentVariableW(kWriteVariable, std::to_wstring(nth).c_str());
+    STARTUPINFO startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES; // None: what it prints is not this test's.
+    PROCESS_INFORMATION process{};
+    if (!CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                       &startup, &process)) {
+        return 0;
+    }
+    DWORD code = 0;
+    if (WaitForSingleObject(process.hProcess, 20000) == WAIT_OBJECT_0) {
+        GetExitCodeProcess(process.hProcess, &code);
+    }
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+TEST_F(FaultsTest, WhatAnInterruptedSaveLeavesLoads) {
+    constexpr ULONG kWrites = 380; // Fewer than a whole save makes.
+    const auto before = LoadStore();
+    const auto changed = LoadStore();
+    ForEachRow([&](const SettingTable&, const SettingRow& row) {
+        std::visit(SetOther{*changed}, row.what);
+    });
+    for (ULONG nth = 1; nth < kWrites; nth += 10) {
+        ASSERT_EQ(RunOut(nth), kStandInExitCode) << nth;
+        const auto store = LoadStore();
+        ForEachRow([&](const SettingTable&, const SettingRow& row) {
+            // A font is six values, of which some may be the old ones.
+            if (std::holds_alternative<FontRow>(row.what)) return;
+            const std::wstring shown = ShownIn(*store, row);
+            EXPECT_TRUE(shown == ShownIn(*before, row) || shown == ShownIn(*changed, row)) << shown;
+        });
+        EXPECT_GE(store->tabs.All().size(), 6U);
+    }
+    EXPECT_EQ(GetUserNumber(kTasks, L"TsksDateFrmt"), 4U) << "the last run came that far";
+}
+
+} // namespace

@@ -1,0 +1,332 @@
+#include "pages/tasks_page.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "resource_ids.h"
+#include "shell/services/resource_strings.h"
+#include "tests/support/page_fixture.h"
+#include "ui/key_navigation.h"
+
+namespace {
+constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
+constexpr int kIconsTab = 2;
+// Each chooser's buttons follow its label.
+constexpr int kLeft1 = 1216;
+constexpr int kLeft2 = 1218;
+constexpr int kRight = 1220;
+constexpr int kCustomDate = 1221;
+
+class TasksPageTest : public PageFixture {
+  protected:
+    TasksPageTest() : PageFixture(2) {}
+
+    void SetUp() override {
+        PageFixture::SetUp();
+        const wchar_t* library = Scale(1) > 1 ? L"HighDpiRes.dll" : L"LowDpiRes.dll";
+        application.displayLibrary =
+            LoadLibrary((std::wstring(L"\\Program Files\\Teskel\\Orvane\\") + library).c_str());
+        ASSERT_TRUE(application.displayLibrary);
+    }
+
+    void TearDown() override {
+        FreeLibrary(application.displayLibrary);
+        application.displayLibrary = nullptr;
+        PageFixture::TearDown();
+    }
+
+    HWND OpenIcons(uint32_t left1, uint32_t left2, uint32_t right) {
+        SetNumber(HKEY_CURRENT_USER, kTasks, L"TaskTabLeftAlignIcon1", left1);
+        SetNumber(HKEY_CURRENT_USER, kTasks, L"TaskTabLeftAlignIcon2", left2);
+        SetNumber(HKEY_CURRENT_USER, kTasks, L"TasksRightIcons", right);
+        HWND window = Open();
+        ShowTab(kIconsTab);
+        PumpMessages();
+        return window;
+    }
+
+    // From the menu of a left chooser; entry 0 is none.
+    void ChooseLeft(int id, int entry) const {
+        HWND strip = GetDlgItem(page_->hwnd, id);
+        // They wait for the menu's own message loop.
+        for (int i = 0; i <= entry; ++i)
+            PostMessage(strip, WM_KEYDOWN, VK_DOWN, 0);
+        PostMessage(strip, WM_KEYDOWN, VK_RETURN, 0);
+        SendMessage(strip, BM_CLICK, 0, 0);
+    }
+
+    // A tap on one of the eight buttons of the right icons.
+    void TapRight(int button) const {
+        HWND strip = GetDlgItem(page_->hwnd, kRight);
+        RECT client{};
+        GetClientRect(strip, &client);
+        const LPARAM place = MAKELPARAM(client.right * (2 * button + 1) / 16, client.bottom / 2);
+        SendMessage(strip, WM_LBUTTONDOWN, MK_LBUTTON, place);
+        SendMessage(strip, WM_LBUTTONUP, 0, place);
+    }
+
+    void ExpectIcons(uint32_t left1, uint32_t left2, uint32_t right) const {
+        EXPECT_EQ(settingsStore.TaskTabLeftAlignIcon1.value, left1);
+        EXPECT_EQ(settingsStore.TaskTabLeftAlignIcon2.value, left2);
+        EXPECT_EQ(settingsStore.TasksRightIcons.value, right);
+    }
+};
+
+// Every number of the forms, each by the control that edits it: two that were swapped would show.
+TEST_F(TasksPageTest, EveryControlShowsAndSavesItsOwnSetting) {
+    struct Row {
+        int id;
+        const wchar_t* name;
+        bool isCombo;
+        uint32_t stored;
+        uint32_t chosen;
+    };
+    const Row rows[] = {
+        {1201, L"TsksDateFrmt", true, 11, 4},
+        {1203, L"TsksLimitFutureDate", true, 7, 2},
+        {1204, L"HideCompletedTasks", false, 1, 0},
+        {1205, L"HidePastCompletedTasks", false, 0, 1},
+        {1206, L"ConfirmTaskCompleteTsks", false, 0, 1},
+        {1207, L"RemoveUndatedLeadingStr", false, 1, 0},
+        {1208, L"RemoveUndatedTsks", false, 1, 0},
+        {1210, L"TsksLineBreaker", true, 0, 2},
+        {1212, L"TsksFoldingType", true, 0, 1},
+        {1213, L"TsksUseSmartFolding", false, 0, 1},
+        {1214, L"IncludeCountersTsks", false, 0, 1},
+        {1221, L"UseCustomDateTsks", false, 1, 0},
+        {1227, L"TsksCustomDateStruct", true, 2, 0},
+    };
+    const auto shown = [this](const Row& row) {
+        return static_cast<uint32_t>(SendDlgItemMessage(
+            page_->hwnd, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0));
+    };
+    for (const Row& changed : rows) {
+        for (const Row& row : rows)
+            SetNumber(HKEY_CURRENT_USER, kTasks, row.name, row.stored);
+        HWND window = Open();
+        if (changed.isCombo)
+            Choose(window, changed.id, static_cast<int>(changed.chosen));
+        else
+            Tap(window, changed.id);
+        Close();
+        settingsStore.Save();
+        Open();
+        for (const Row& row : rows) {
+            EXPECT_EQ(shown(row), row.id == changed.id ? row.chosen : row.stored)
+                << row.id << " after " << changed.id;
+        }
+        Close();
+    }
+}
+
+TEST_F(TasksPageTest, SavesTheTextsOfCustomDatesAsTyped) {
+    SetText(HKEY_CURRENT_USER, kTasks, L"CustomDateFrmtStart", L"d.M.");
+    SetText(HKEY_CURRENT_USER, kTasks, L"CustomDateFrmtEnd", L"ddd");
+    HWND window = Open();
+    EXPECT_EQ(TextOf(GetDlgItem(window, 1223)), L"d.M.");
+    EXPECT_EQ(TextOf(GetDlgItem(window, 1225)), L"ddd");
+    SetDlgItemText(window, 1223, L"");
+    SetDlgItemText(window, 1225, std::wstring(300, L'%').c_str());
+    Close();
+    EXPECT_EQ(settingsStore.CustomDateFrmtStart.value.CStr(), std::wstring());
+    EXPECT_EQ(settingsStore.CustomDateFrmtEnd.value.CStr(), std::wstring(255, L'%'));
+}
+
+TEST_F(TasksPageTest, EnablesCustomDatesByTheirBox) {
+    HWND window = Open();
+    for (const bool isOn : {false, true, false}) {
+        for (int id = kCustomDate + 1; id <= kCustomDate + 6; ++id)
+            EXPECT_EQ(IsEnabled(id), isOn) << id;
+        Tap(window, kCustomDate);
+    }
+    Close();
+}
+
+TEST_F(TasksPageTest, AnIndexOutOfRangeShowsAndSavesNoSelection) {
+    SetNumber(HKEY_CURRENT_USER, kTasks, L"TsksFoldingType", 5);
+    SetNumber(HKEY_CURRENT_USER, kTasks, L"TsksDateFrmt", 0x80000000);
+    HWND window = Open();
+    EXPECT_EQ(SendDlgItemMessage(window, 1212, CB_GETCURSEL, 0, 0), CB_ERR);
+    EXPECT_EQ(SendDlgItemMessage(window, 1201, CB_GETCURSEL, 0, 0), CB_ERR);
+    Close();
+    EXPECT_EQ(settingsStore.TsksFoldingType.value, 0xFFFFFFFFu);
+    EXPECT_EQ(settingsStore.TsksDateFrmt.value, 0xFFFFFFFFu);
+}
+
+// From the clock, told apart from the page's own arithmetic by the C library's.
+TEST_F(TasksPageTest, DatesSamplesFromTodayToAWeekLater) {
+    const std::wstring samples = EntriesOf(GetDlgItem(Open(), 1201));
+    Close();
+    const time_t now = time(nullptr);
+    tm today = *localtime(&now);
+    tm later = today;
+    later.tm_mday += 7;
+    later.tm_hour = 12; // Clear of the hour that daylight saving adds or takes.
+    mktime(&later);
+    const auto date = [](const tm& day, bool dayFirst, bool withYear) {
+        const int month = day.tm_mon + 1;
+        std::wstring text = std::to_wstring(dayFirst ? day.tm_mday : month) + L"/" +
+                            std::to_wstring(dayFirst ? month : day.tm_mday);
+        const std::wstring year = std::to_wstring(day.tm_year % 100 + 100).substr(1);
+        return withYear ? text + L"/" + year : text;
+    };
+    const std::wstring start = L" " + std::wstring(LanguageText(IDS_TASKS_DATE_START).CStr());
+    const std::wstring due = std::wstring(LanguageText(IDS_TASKS_DATE_DUE).CStr()) + L" ";
+    std::wstring expected;
+    for (const bool dayFirst : {false, true}) {
+        const std::wstring from = date(today, dayFirst, false);
+        const std::wstring to = date(later, dayFirst, false);
+        const std::wstring fromYear = date(today, dayFirst, true);
+        const std::wstring toYear = date(later, dayFirst, true);
+        for (const std::wstring& sample : {from + L" - " + toYear, from + L" - " + to,
+                                           fromYear + start, due + toYear, from + start, due + to})
+            expected += (expected.empty() ? L"" : L"|") + sample;
+    }
+    EXPECT_EQ(samples, expected);
+}
+
+TEST_F(TasksPageTest, AnIconChosenAtTheLeftLeavesTheRight) {
+    OpenIcons(0, 0, 383);
+    ChooseLeft(kLeft1, 5);
+    ExpectIcons(16, 0, 367);
+    TapRight(4);
+    ExpectIcons(16, 0, 367); // Withdrawn.
+    ChooseLeft(kLeft1, 1);
+    TapRight(4);
+    ExpectIcons(1, 0, 382); // What the left gave back can be chosen again.
+    ChooseLeft(kLeft2, 1);
+    ChooseLeft(kLeft1, 0);
+    TapRight(0);
+    ExpectIcons(0, 1, 382); // The other left icon still has it.
+    ChooseLeft(kLeft2, 8);
+    TapRight(0);
+    ExpectIcons(0, 256, 127);
+    Close();
+}
+
+TEST_F(TasksPageTest, WhatStandsAtTheLeftIsWithdrawnFromTheStart) {
+    OpenIcons(16, 3, 383 | 0x80000080);
+    TapRight(4);
+    ExpectIcons(16, 3, 383 | 0x80000080);
+    TapRight(0);
+    ExpectIcons(16, 3, 383 - 16 - 1); // Only what the chooser shows counts.
+    Close();
+    EXPECT_EQ(settingsStore.TaskTabLeftAlignIcon2.value, 3u) << "an unknown icon stays";
+    EXPECT_FALSE(settingsStore.TaskTabLeftAlignIcon2.changed);
+}
+
+TEST_F(TasksPageTest, AMenuLeftWithoutAChoiceChangesNothing) {
+    OpenIcons(1, 0, 8);
+    HWND strip = GetDlgItem(page_->hwnd, kLeft1);
+    PostMessage(strip, WM_KEYDOWN, VK_DOWN, 0);
+    PostMessage(strip, WM_KEYDOWN, VK_ESCAPE, 0);
+    SendMessage(strip, BM_CLICK, 0, 0);
+    ExpectIcons(1, 0, 8);
+    EXPECT_FALSE(settingsStore.TaskTabLeftAlignIcon1.changed);
+    Close();
+}
+
+TEST_F(TasksPageTest, TheIconsAreWorkedByKeys) {
+    HWND window = OpenIcons(2, 0, 1 | 4);
+    const auto press = [window](WPARAM key) {
+        const MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
+        EXPECT_TRUE(TranslateNavigationKey(window, message));
+    };
+    FocusFirstControl(window);
+    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kLeft1);
+    press(VK_RIGHT);
+    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kLeft2);
+    press(VK_DOWN);
+    press(VK_RIGHT); // Past the withdrawn one.
+    press(VK_RETURN);
+    ExpectIcons(2, 0, 1);
+    press(VK_LEFT);
+    press(VK_RETURN);
+    ExpectIcons(2, 0, 0);
+    press(VK_LEFT); // No further button.
+    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kLeft2);
+    Close();
+}
+
+// Another program may close the main window, and the page, while a chooser's menu is open.
+std::unique_ptr<SettingsPage>* openPage;
+
+TEST_F(TasksPageTest, SurvivesBeingClosedBehindAMenu) {
+    HWND window = OpenIcons(0, 0, 383);
+    openPage = &page_;
+    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        ClosePage(**openPage);
+        openPage->reset();
+    });
+    SendDlgItemMessage(window, kLeft1, BM_CLICK, 0, 0);
+    EXPECT_FALSE(IsWindow(window));
+    ExpectIcons(0, 0, 383);
+}
+
+TEST_F(TasksPageTest, AHeldButtonNamesItsIcon) {
+    OpenIcons(0, 0, 0);
+    HWND strip = GetDlgItem(page_->hwnd, kRight);
+    SendMessage(strip, WM_MOUSEMOVE, 0, MAKELPARAM(2, 2));
+    SendMessage(strip, WM_TIMER, 1, 0);
+    HWND tip = FindWindow(L"ToolTipWindow", nullptr);
+    ASSERT_TRUE(tip);
+    EXPECT_EQ(TextOf(tip), LanguageText(IDS_ICON_NOTE).CStr());
+    SendMessage(strip, WM_TIMER, 1, 0);
+    EXPECT_FALSE(IsWindow(tip));
+    Close();
+}
+
+// How many pixels of a band as wide as the page are not white.
+int DrawnPixels(HWND window, int top, int bottom) {
+    RECT client{};
+    GetClientRect(window, &client);
+    HDC dc = GetDC(window);
+    int drawn = 0;
+    for (int y = top; y < bottom; ++y) {
+        for (int x = 0; x < client.right; ++x)
+            drawn += GetPixel(dc, x, y) != RGB(255, 255, 255);
+    }
+    ReleaseDC(window, dc);
+    return drawn;
+}
+
+TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
+    HWND window = OpenIcons(0, 0, 0);
+    RECT strip{};
+    GetWindowRect(GetDlgItem(window, kRight), &strip);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&strip), 2);
+    const int bottom = strip.bottom + ScaleY(8 + 42);
+    const auto drawn = [&] { return DrawnPixels(window, bottom - ScaleY(30), bottom); };
+    UpdateWindow(window);
+    const int plain = drawn();
+    EXPECT_GT(plain, 0);
+    TapRight(0);
+    const int oneIcon = drawn();
+    EXPECT_GT(oneIcon, plain);
+    ChooseLeft(kLeft1, 2);
+    EXPECT_GT(drawn(), oneIcon);
+    ShowTab(3);
+    PumpMessages();
+    EXPECT_EQ(drawn(), 0) << "the sample stands on its own tab alone";
+    Close();
+}
+
+TEST_F(TasksPageTest, PlacesItsRowsAgainWhenTheScreenTurns) {
+    HWND window = OpenIcons(0, 0, 383);
+    const auto place = [window](int id) {
+        RECT rect{};
+        GetWindowRect(GetDlgItem(window, id), &rect);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&rect), 2);
+        return rect;
+    };
+    EXPECT_GT(place(kLeft2).top, place(kLeft1).top);
+    MoveWindow(window, 0, Scale(26), Scale(320), Scale(188), FALSE);
+    EXPECT_EQ(place(kLeft2).top, place(kLeft1).top) << "side by side";
+    EXPECT_GT(place(kLeft2).left, place(kLeft1).right);
+    EXPECT_EQ(place(1201).right, Scale(310)) << "at the right edge of the wider page";
+    EXPECT_EQ(place(1204).right, Scale(310));
+    Close();
+}
+} // namespace

@@ -1,0 +1,60 @@
+// A settings page as the program opens it: over a main window, from the store, with a registry of
+// the test's own.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+
+#include "pages/settings_page.h"
+#include "settings/settings_store.h"
+#include "shell/page_factory.h"
+#include "shell/services/application.h"
+#include "shell/services/scaling.h"
+#include "tests/support/registry_fixture.h"
+#include "tests/support/window_support.h"
+
+class PageFixture : public RegistryFixture {
+  protected:
+    // The page of a row of the page list, on a main window as a screen of 240 by 320 units has it.
+    explicit PageFixture(int row) : row_(row) {}
+
+    void SetUp() override {
+        RegistryFixture::SetUp();
+        application.instance = GetModuleHandle(nullptr);
+        owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
+                                Scale(268), nullptr, nullptr, application.instance, nullptr);
+    }
+
+    void TearDown() override {
+        DestroyWindow(owner_);
+        if (application.languageLibrary) FreeLibrary(application.languageLibrary);
+        application.languageLibrary = nullptr;
+        RegistryFixture::TearDown();
+    }
+
+    // Loads the store as at start, opens the page, and gives its window.
+    HWND Open() {
+        settingsStore.Load(application.languageLibrary);
+        page_.reset(CreatePage(owner_, row_));
+        EXPECT_TRUE(page_ && page_->hwnd);
+        return page_->hwnd;
+    }
+
+    void Close() {
+        ClosePage(*page_);
+        page_.reset();
+    }
+
+    void ShowTab(int tab) const {
+        SendMessage(page_->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+    }
+
+    bool IsEnabled(int id) const { return IsWindowEnabled(GetDlgItem(page_->hwnd, id)); }
+
+    HWND owner_ = nullptr;
+    std::unique_ptr<SettingsPage> page_;
+
+  private:
+    int row_;
+};
