@@ -25,6 +25,16 @@ void FillChoices(HWND combo, std::span<const UINT> choices) {
     for (const UINT text : choices)
         AddEntry(combo, LanguageText(text).CStr());
 }
+
+bool IsShownChecked(const FormRow& row) {
+    const uint32_t value = (settingsStore.*row.setting).value;
+    return row.kind == RowKind::Flag ? value != 0 : value == 1;
+}
+
+void ShowNumber(HWND combo, const FormRow& row) {
+    if (!SelectData(combo, (settingsStore.*row.setting).value) && !row.keepsOthers)
+        SelectData(combo, row.fallback);
+}
 } // namespace
 
 int FormPage::GetTabCount() const {
@@ -71,9 +81,12 @@ void FormPage::PlaceRow(HWND window, const FormRow& row, RowLayout& layout) {
     const WideString text = LanguageText(row.text);
     switch (row.kind) {
     case RowKind::Check:
+    case RowKind::Flag:
         layout.AddCheck(row.id, text.CStr());
         break;
     case RowKind::Choice:
+    case RowKind::Number:
+    case RowKind::CustomChoice:
         layout.AddCombo(row.labelId, text.CStr(), row.id);
         break;
     case RowKind::Path:
@@ -92,12 +105,17 @@ void FormPage::LoadRow(HWND window, const FormRow& row) {
     HWND control = GetDlgItem(window, static_cast<int>(row.id));
     switch (row.kind) {
     case RowKind::Check:
-        SendMessage(control, BM_SETCHECK, (settingsStore.*row.setting).value == 1, 0);
+    case RowKind::Flag:
+        SendMessage(control, BM_SETCHECK, IsShownChecked(row), 0);
         break;
     case RowKind::Choice:
         FillChoices(control, row.choices);
         if (row.fillChoices) row.fillChoices(control);
         SelectIndex(control, (settingsStore.*row.setting).value);
+        break;
+    case RowKind::Number:
+        row.fillChoices(control);
+        ShowNumber(control, row);
         break;
     case RowKind::Path:
         SetDlgItemText(window, static_cast<int>(row.id + kPathEdit),
@@ -106,6 +124,7 @@ void FormPage::LoadRow(HWND window, const FormRow& row) {
     case RowKind::Text:
         SetWindowText(control, (settingsStore.*row.path).value.CStr());
         break;
+    case RowKind::CustomChoice:
     case RowKind::Custom:
         LoadCustomRow(window, row);
         break;
@@ -130,10 +149,12 @@ void FormPage::SaveValues(HWND window, WPARAM) {
 void FormPage::SaveRow(HWND window, const FormRow& row) {
     switch (row.kind) {
     case RowKind::Check:
-        (settingsStore.*row.setting).Set(IsBoxChecked(window, row.id) ? 1 : 0);
+    case RowKind::Flag:
+        SaveBox(window, row);
         break;
     case RowKind::Choice:
-        (settingsStore.*row.setting).Set(static_cast<uint32_t>(SelectedIndex(window, row.id)));
+    case RowKind::Number:
+        SaveNumber(window, row);
         break;
     case RowKind::Path: {
         HWND edit = GetDlgItem(window, static_cast<int>(row.id + kPathEdit));
@@ -145,10 +166,25 @@ void FormPage::SaveRow(HWND window, const FormRow& row) {
         (settingsStore.*row.path).Set(ControlText(edit, kTextLimit).CStr());
         break;
     }
+    case RowKind::CustomChoice:
     case RowKind::Custom:
         SaveCustomRow(window, row);
         break;
     }
+}
+
+void FormPage::SaveBox(HWND window, const FormRow& row) {
+    const bool isChecked = IsBoxChecked(window, row.id);
+    if (row.keepsOthers && isChecked == IsShownChecked(row)) return;
+    (settingsStore.*row.setting).Set(isChecked ? 1 : 0);
+}
+
+void FormPage::SaveNumber(HWND window, const FormRow& row) {
+    const int index = SelectedIndex(window, row.id);
+    if (row.keepsOthers && index < 0) return;
+    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
+    (settingsStore.*row.setting)
+        .Set(row.kind == RowKind::Number ? SelectedData(combo) : static_cast<uint32_t>(index));
 }
 
 LRESULT FormPage::OnCommand(HWND window, UINT, WPARAM wParam, LPARAM lParam) {

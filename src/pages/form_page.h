@@ -11,11 +11,14 @@
 // the row; texts are ids of the language library.
 
 enum class RowKind : uint8_t {
-    Check,  // A box for a number that is 1 or 0.
-    Choice, // A drop-down list that stores the index of its entry.
-    Path,   // A path with a button to clear it and one to browse; four control ids.
-    Text,   // A text in one of two columns.
-    Custom, // Placed, loaded and saved by the page.
+    Check,        // A box for a number that is 1 or 0; checked for 1.
+    Flag,         // The same, checked for any number but 0.
+    Choice,       // A drop-down list that stores the index of its entry.
+    Number,       // A drop-down list that stores the number its entry carries as data.
+    Path,         // A path with a button to clear it and one to browse; four control ids.
+    Text,         // A text in one of two columns.
+    CustomChoice, // A drop-down list that the page loads and saves.
+    Custom,       // Placed, loaded and saved by the page.
 };
 
 struct FormTab {
@@ -38,6 +41,11 @@ struct FormRow {
     uint8_t column = 0;                           // Of a text, from the left.
     bool (*exists)() = nullptr;                   // Null: always.
     int8_t gapAfter = 0; // Units between this row and the next beyond the usual pitch.
+    // Of a number: the one whose entry is shown for a stored number that has none.
+    uint32_t fallback = 0;
+    // A stored number that the row has no entry for, or a box no better than a 1, stays until the
+    // user changes what the control shows.
+    bool keepsOthers = false;
 };
 
 // Enables the controls with an id in a closed range by the state of others.
@@ -75,6 +83,8 @@ class FormPage : public SettingsPage {
     // A path row's browse button was tapped: `path` gives the one shown and receives the chosen
     // one; false when the user cancels.
     virtual bool BrowsePath(HWND window, const FormRow& row, WideString& path);
+    // Enables by the table's rules; done whenever a box or a drop-down list was changed.
+    void ApplyRules(HWND window) const;
 
   private:
     template <typename Wanted>
@@ -82,7 +92,8 @@ class FormPage : public SettingsPage {
     void PlaceRow(HWND window, const FormRow& row, RowLayout& layout);
     void LoadRow(HWND window, const FormRow& row);
     void SaveRow(HWND window, const FormRow& row);
-    void ApplyRules(HWND window) const;
+    void SaveBox(HWND window, const FormRow& row);
+    void SaveNumber(HWND window, const FormRow& row);
     [[nodiscard]] const FormRow* PathRowOfButton(UINT id) const;
     void OnPathButton(HWND window, const FormRow& row, UINT id);
 

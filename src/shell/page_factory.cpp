@@ -4,7 +4,10 @@
 
 #include "pages/calendar_page.h"
 #include "pages/general_page.h"
+#include "pages/messages_page.h"
 #include "pages/outline_page.h"
+#include "pages/pim_page.h"
+#include "pages/special_events_page.h"
 #include "pages/tasks_page.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
@@ -35,14 +38,13 @@ constexpr PageEntry kPages[kPageCount] = {
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin",
      MakeOutline<IDS_TAB_CONTACTS_DISPLAY, IDS_TAB_CONTACTS_ACTIONS, IDS_TAB_CONTACTS_ALPHABETS>},
-    {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES>},
-    {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin",
-     MakeOutline<IDS_TAB_SEVENTS_DISPLAY, IDS_TAB_SEVENTS_FILTERS, IDS_TAB_TITLES>},
+    {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakePage<MessagesPage>},
+    {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin", MakePage<SpecialEventsPage>},
     {IDS_PAGE_FONTS, L"FontSettingsWin",
      MakeOutline<IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_COLOURS>},
     {IDS_PAGE_COLOURS, L"ColorSettingsWin",
      MakeOutline<IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES>},
-    {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
+    {IDS_PAGE_PIM, L"PIMSettingsWin", MakePage<PimPage>},
     {IDS_PAGE_TABS, L"TabsSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},
     {IDS_PAGE_CATEGORY, L"CategorySettingsWin",

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <initializer_list>
+
 #include "ui/button_strip.h"
 
 namespace {
@@ -93,7 +95,7 @@ HWND FindTabStrip(HWND root) {
     return child;
 }
 
-// Left and Right on a closed drop-down list; its window tells the page as after a choice by tap.
+// Left and Right on a closed drop-down list; its page is told as after a choice by tap.
 void StepCombo(HWND root, HWND combo, bool forward) {
     const auto count = static_cast<int>(SendMessage(combo, CB_GETCOUNT, 0, 0));
     const auto current = static_cast<int>(SendMessage(combo, CB_GETCURSEL, 0, 0));
@@ -101,7 +103,12 @@ void StepCombo(HWND root, HWND combo, bool forward) {
     if (next < 0 || next >= count) return;
     SendMessage(combo, CB_SETCURSEL, static_cast<WPARAM>(next), 0);
     const auto id = static_cast<UINT>(GetDlgCtrlID(combo));
-    SendMessage(root, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+    for (const UINT notification : {CBN_SELENDOK, CBN_SELCHANGE}) {
+        // A page may answer a choice with a message, and be closed behind it.
+        if (!IsWindow(combo)) return;
+        SendMessage(root, WM_COMMAND, MAKEWPARAM(id, notification),
+                    reinterpret_cast<LPARAM>(combo));
+    }
 }
 
 bool IsDropped(HWND control) {
