@@ -4,6 +4,7 @@ set(files ${PROJECT_SOURCE_DIR}/src/files)
 set(preview ${PROJECT_SOURCE_DIR}/src/preview)
 file(GLOB pure_tests CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/pure/*_test.cpp)
 add_executable(pure_tests ${pure_tests}
+    ${files}/alphabet_file.cpp
     ${files}/backup_reader.cpp
     ${files}/byte_stream.cpp
     ${files}/filter_file.cpp

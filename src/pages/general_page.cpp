@@ -3,6 +3,7 @@
 #include "resource_ids.h"
 #include "shell/services/handles.h"
 #include "shell/services/number_text.h"
+#include "shell/services/platform_version.h"
 #include "shell/services/resource_strings.h"
 #include "ui/folder_dialog.h"
 
@@ -65,15 +66,6 @@ constexpr UINT kDPadCompleteChoices[] = {IDS_GENERAL_DPAD_COMPLETE_NOTHING,
                                          IDS_GENERAL_DPAD_COMPLETE_OPEN};
 constexpr UINT kDPadScrollingChoices[] = {
     IDS_GENERAL_DPAD_SCROLL_LINE, IDS_GENERAL_DPAD_SCROLL_ITEM, IDS_GENERAL_DPAD_SCROLL_PAGE};
-
-// Platforms up to Windows CE 4.20 have no exclusive use of the directional pad.
-bool IsNewerThanCe420() {
-    OSVERSIONINFO version{};
-    version.dwOSVersionInfoSize = sizeof(version);
-    GetVersionEx(&version);
-    return !(version.dwMajorVersion == 3 ||
-             (version.dwMajorVersion == 4 && version.dwMinorVersion == 20));
-}
 
 bool IsScreenWide() {
     constexpr int kVgaWidth = 480; // Pixels.

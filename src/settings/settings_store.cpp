@@ -7,6 +7,7 @@
 #include "settings/registry_values.h"
 #include "settings/setting_table.h"
 #include "settings/system_colour.h"
+#include "shell/services/platform_version.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 
@@ -85,6 +86,7 @@ void SettingsStore::Load(HMODULE& languageLibrary) {
     LoadTable(kTasksTable, *this);
     LoadTable(kNotesTable, *this);
     LoadTable(kContactsTable, *this);
+    customAlphabets.Load(SettingGroup::Contacts, L"Alphabets");
     LoadTable(kMessagesTable, *this);
     LoadTable(kSpecialEventsTable, *this);
     LoadTable(kFontsTable, *this);
@@ -109,11 +111,7 @@ void SettingsStore::LoadInstallFolder() {
 void SettingsStore::LoadSystemColours() {
     constexpr COLORREF kBlue = 0x9C4D2C;
     constexpr COLORREF kWhite = 0xFFFFFF;
-    OSVERSIONINFO system = {};
-    system.dwOSVersionInfoSize = sizeof system;
-    GetVersionEx(&system);
-    const bool old =
-        system.dwMajorVersion == 3 || (system.dwMajorVersion == 4 && system.dwMinorVersion == 20);
+    const bool old = !IsNewerThanCe420();
 
     systemColours[0] = SystemColour(4, 0x000000);
     systemColours[1] = SystemColour(6, 0xEF8E73);
@@ -198,6 +196,7 @@ void SettingsStore::Save() {
     SaveTable(kTasksTable, *this);
     SaveTable(kNotesTable, *this);
     SaveTable(kContactsTable, *this);
+    customAlphabets.Save();
     SaveTable(kMessagesTable, *this);
     SaveTable(kSpecialEventsTable, *this);
     SaveTable(kFontsTable, *this);

@@ -17,6 +17,7 @@
 #include "settings/tab_list.h"
 #include "settings/tab_settings.h"
 #include "settings/tasks_settings.h"
+#include "settings/text_list.h"
 
 // The program's one model of everything it keeps in the registry. It is loaded at start-up and
 // after the registry was replaced below it, changed by the pages, and saved when the user confirms.
@@ -52,9 +53,10 @@ struct SettingsStore {
 #undef DECLARE_FONT
 
     TabList tabs;
-    WideString installFolder;       // Without a backslash at its end.
-    COLORREF systemColours[6] = {}; // Of the device's colour scheme.
-    bool twelveHourClock = true;    // By the user's locale.
+    TextListSetting customAlphabets; // The active ones, by the names of their files.
+    WideString installFolder;        // Without a backslash at its end.
+    COLORREF systemColours[6] = {};  // Of the device's colour scheme.
+    bool twelveHourClock = true;     // By the user's locale.
 
     // Reads everything, repairing what is out of range; what is repaired counts as set. The
     // language library is part of what is loaded: the one in the slot is freed, and the slot takes

@@ -5,6 +5,7 @@
 #include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/messages_page.h"
+#include "pages/notes_page.h"
 #include "pages/outline_page.h"
 #include "pages/pim_page.h"
 #include "pages/special_events_page.h"
@@ -34,8 +35,7 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakePage<GeneralPage>},
     {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
     {IDS_PAGE_TASKS, L"TasksSettingsWin", MakePage<TasksPage>},
-    {IDS_PAGE_NOTES, L"NotesSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
+    {IDS_PAGE_NOTES, L"NotesSettingsWin", MakePage<NotesPage>},
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin",
      MakeOutline<IDS_TAB_CONTACTS_DISPLAY, IDS_TAB_CONTACTS_ACTIONS, IDS_TAB_CONTACTS_ALPHABETS>},
     {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakePage<MessagesPage>},

@@ -20,15 +20,14 @@ constexpr int kTextColumn = 120; // From one column to the other.
 constexpr int kTextLabelHeight = 16;
 constexpr int kTextPitch = 26;
 
-int ClientWidth(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return client.right;
-}
 } // namespace
 
-RowLayout::RowLayout(HWND page, HFONT font, int top)
-    : page_(page), font_(font), width_(ClientWidth(page)), y_(ScaleY(top)) {}
+RowLayout::RowLayout(HWND page, HFONT font, int top) : page_(page), font_(font), y_(ScaleY(top)) {
+    RECT client{};
+    GetClientRect(page, &client);
+    width_ = client.right;
+    height_ = client.bottom;
+}
 
 void RowLayout::Skip(int units) {
     y_ += ScaleY(units);
@@ -86,6 +85,16 @@ void RowLayout::AddPath(UINT firstId, const wchar_t* label, int limit) {
     Put(L"BUTTON", LanguageText(IDS_BROWSE).CStr(), WS_TABSTOP, firstId + 3,
         {browse, y_, buttonWidth, height});
     Skip(kRowPitch);
+}
+
+void RowLayout::AddLabel(UINT id, const wchar_t* text) {
+    Put(L"STATIC", text, SS_LEFT, id,
+        {Scale(kMargin), y_, width_ - Scale(2 * kMargin), ScaleY(kTextLabelHeight)});
+    Skip(kPathLabelPitch);
+}
+
+ControlPlace RowLayout::RoomAbove(int bottom) const {
+    return {Scale(kMargin), y_, width_ - Scale(2 * kMargin), height_ - ScaleY(bottom) - y_};
 }
 
 void RowLayout::AddText(int column, UINT labelId, const wchar_t* label, UINT editId, int limit) {

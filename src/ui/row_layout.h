@@ -23,6 +23,13 @@ class RowLayout {
     // A label above an edit field in one of two columns.
     void AddText(int column, UINT labelId, const wchar_t* label, UINT editId, int limit);
 
+    // A line of text as wide as the rows.
+    void AddLabel(UINT id, const wchar_t* text);
+
+    // The room from the cursor down to `bottom` units above the window's lower edge, as wide as the
+    // rows: the place for a list. In pixels.
+    [[nodiscard]] ControlPlace RoomAbove(int bottom) const;
+
     // Moves the cursor by units; negative is up.
     void Skip(int units);
     // The cursor, for rows that a page makes itself: pixels from the window's upper edge.
@@ -37,6 +44,8 @@ class RowLayout {
 
     HWND page_;
     HFONT font_;
-    int width_; // Of the page, in pixels.
-    int y_;     // In pixels.
+    // In pixels; the first two are the page's.
+    int width_;
+    int height_;
+    int y_;
 };

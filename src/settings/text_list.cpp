@@ -1,0 +1,64 @@
+#include "settings/text_list.h"
+
+#include <iterator>
+#include <utility>
+
+#include "settings/registry_tree.h"
+#include "settings/registry_values.h"
+#include "shell/services/handles.h"
+#include "shell/services/number_text.h"
+
+namespace {
+constexpr size_t kMaxName = 256;
+
+WideString PathOf(SettingGroup group, const wchar_t* subkey) {
+    WideString path(KeyOfGroup(group).path);
+    path.Append(L"\\");
+    path.Append(subkey);
+    return path;
+}
+} // namespace
+
+std::vector<WideString> ReadTextList(SettingGroup group, const wchar_t* subkey) {
+    std::vector<WideString> texts;
+    const UniqueKey key(OpenExistingKey(KeyOfGroup(group).root, PathOf(group, subkey).CStr()));
+    if (!key) return texts;
+    for (DWORD index = 0;; ++index) {
+        wchar_t name[kMaxName + 1];
+        auto length = static_cast<DWORD>(std::size(name));
+        DWORD type = REG_NONE;
+        const LSTATUS status =
+            RegEnumValue(key.Get(), index, name, &length, nullptr, &type, nullptr, nullptr);
+        if (status == ERROR_MORE_DATA) continue; // A name too long to be one of a list's.
+        if (status != ERROR_SUCCESS) return texts;
+        WideString text;
+        if (type == REG_SZ && ReadText(key.Get(), name, text)) texts.push_back(std::move(text));
+    }
+}
+
+void WriteTextList(SettingGroup group, const wchar_t* subkey, std::span<const WideString> texts) {
+    const WideString path = PathOf(group, subkey);
+    DeleteKeyTree(KeyOfGroup(group).root, path.CStr());
+    const UniqueKey key(OpenOrCreateKey(KeyOfGroup(group).root, path.CStr()));
+    for (size_t place = 0; place < texts.size(); ++place) {
+        if (texts[place].IsEmpty()) continue;
+        SetTextValue(key.Get(), DecimalText(static_cast<int32_t>(place)).CStr(),
+                     texts[place].CStr());
+    }
+}
+
+void TextListSetting::Load(SettingGroup group, const wchar_t* subkey) {
+    group_ = group;
+    subkey_ = subkey;
+    texts_ = ReadTextList(group, subkey);
+    changed_ = false;
+}
+
+void TextListSetting::Set(std::vector<WideString> texts) {
+    texts_ = std::move(texts);
+    changed_ = true;
+}
+
+void TextListSetting::Save() const {
+    if (changed_) WriteTextList(group_, subkey_, texts_);
+}

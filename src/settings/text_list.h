@@ -1,0 +1,36 @@
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <vector>
+
+#include "settings/setting.h"
+#include "shell/services/wide_string.h"
+
+// Lists of texts, each kept in a key of its own below a group's key, as texts (REG_SZ) that are
+// named by their position: "0", "1", … No registry failure is reported.
+
+// The texts of the subkey in the order in which the platform enumerates its values, whatever their
+// names (up to 256 characters); values of other types are passed over. None where there is no such
+// key.
+[[nodiscard]] std::vector<WideString> ReadTextList(SettingGroup group, const wchar_t* subkey);
+
+// Replaces the subkey, with all that it holds; an empty text leaves out its position.
+void WriteTextList(SettingGroup group, const wchar_t* subkey, std::span<const WideString> texts);
+
+// A list that is loaded and saved with the store.
+class TextListSetting {
+  public:
+    void Load(SettingGroup group, const wchar_t* subkey);
+    [[nodiscard]] const std::vector<WideString>& Texts() const { return texts_; }
+    void Set(std::vector<WideString> texts);
+    // Writes the list when it was set since the load.
+    void Save() const;
+
+  private:
+    SettingGroup group_ = SettingGroup::Root;
+    const wchar_t* subkey_ = nullptr;
+    std::vector<WideString> texts_;
+    bool changed_ = false;
+};
