@@ -3,6 +3,7 @@
 #include <new>
 
 #include "pages/calendar_page.h"
+#include "pages/contacts_page.h"
 #include "pages/general_page.h"
 #include "pages/messages_page.h"
 #include "pages/notes_page.h"
@@ -36,8 +37,7 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
     {IDS_PAGE_TASKS, L"TasksSettingsWin", MakePage<TasksPage>},
     {IDS_PAGE_NOTES, L"NotesSettingsWin", MakePage<NotesPage>},
-    {IDS_PAGE_CONTACTS, L"ContactSettingsWin",
-     MakeOutline<IDS_TAB_CONTACTS_DISPLAY, IDS_TAB_CONTACTS_ACTIONS, IDS_TAB_CONTACTS_ALPHABETS>},
+    {IDS_PAGE_CONTACTS, L"ContactSettingsWin", MakePage<ContactsPage>},
     {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakePage<MessagesPage>},
     {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin", MakePage<SpecialEventsPage>},
     {IDS_PAGE_FONTS, L"FontSettingsWin",

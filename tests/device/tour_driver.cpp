@@ -33,7 +33,10 @@ constexpr PageSight kPages[kPageCount] = {
 constexpr int kGeneral = 0;
 constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
+constexpr int kNotes = 3;
+constexpr int kPim = 9;
 constexpr UINT kSkinBrowse = 1214;
+constexpr UINT kRemoveFolder = 1216;
 
 void Show(const char* name) {
     constexpr DWORD kPaintTime = 150; // Milliseconds; paints come when all else is done.
@@ -109,6 +112,14 @@ void ShowOpenChoice() {
     Press(VK_ESCAPE);
 }
 
+// The message that stands over a page, which takes its OK.
+void ShowMessageBox(const Program& program, const char* name) {
+    if (HWND box = program.WaitForMessageBox()) {
+        Show(name);
+        Close(box, IDOK);
+    }
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -123,6 +134,14 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kCalendar) ShowOptions(tab);
         if (row == kCalendar && tab == 3) ShowOpenChoice();
         if (row == kTasks && tab == 2) ShowIconChooser(page);
+        if (row == kNotes && tab == 3) {
+            TapOn(GetDlgItem(page, kRemoveFolder));
+            ShowMessageBox(program, "message-nothing-selected");
+        }
+        if (row == kPim && tab == 0) {
+            Press(VK_LEFT); // From the application that is installed to the one that is not.
+            ShowMessageBox(program, "message-not-installed");
+        }
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
     return WaitUntil([page] { return !IsWindow(page); });

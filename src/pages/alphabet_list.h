@@ -1,0 +1,44 @@
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdint>
+#include <vector>
+
+#include "shell/services/wide_string.h"
+#include "ui/controls.h"
+
+// The alphabets of the contacts' search bar, each with a tick for "active": the built-in ones, the
+// custom ones, and those that are active although their file is gone. A file that cannot be read is
+// listed as such, and cannot be made active.
+class AlphabetList {
+  public:
+    void Create(HWND page, UINT id, HFONT font);
+    void Place(const ControlPlace& place) const;
+    // Fills the new list from the store.
+    void Fill();
+    // Stores what the user changed; flags of languages unknown here stay.
+    void Save() const;
+    // A notification of the list.
+    void OnNotify(const NMHDR& header);
+
+  private:
+    struct Row {
+        uint32_t language = 0; // The flag of a built-in alphabet; 0 for a custom one.
+        WideString fileName;   // Of a custom one.
+        bool isUsable = true;
+        bool wasActive = false;
+    };
+
+    void AddLanguages();
+    void AddCustoms();
+    void AddRow(const Row& row, const WideString& text);
+    void OnTicked(size_t row);
+    [[nodiscard]] bool IsTicked(size_t row) const;
+    void Tick(size_t row, bool isTicked) const;
+
+    HWND list_ = nullptr;
+    std::vector<Row> rows_;
+};

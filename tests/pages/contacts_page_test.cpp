@@ -1,0 +1,180 @@
+#include "pages/contacts_page.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "resource_ids.h"
+#include "shell/services/resource_strings.h"
+#include "tests/support/dialog_steps.h"
+#include "tests/support/install_folder.h"
+#include "tests/support/page_fixture.h"
+#include "ui/key_navigation.h"
+
+namespace {
+constexpr wchar_t kContacts[] = L"Software\\Teskel\\Orvane\\Contacts";
+constexpr wchar_t kAlphabets[] = L"Software\\Teskel\\Orvane\\Contacts\\Alphabets";
+constexpr int kList = 1219;
+constexpr int kLanguages = 6; // Built-in alphabets, which come first.
+
+class ContactsPageTest : public PageFixture {
+  protected:
+    ContactsPageTest() : PageFixture(4) {}
+
+    void SetUp() override {
+        PageFixture::SetUp();
+        folder_ = std::make_unique<InstallFolder>();
+    }
+
+    void TearDown() override {
+        folder_.reset();
+        PageFixture::TearDown();
+    }
+
+    // Nothing is changed, but every key that the program keeps is there.
+    void OpenAndSave() {
+        Open();
+        Close();
+        settingsStore.Save();
+    }
+
+    HWND List() const { return GetDlgItem(page_->hwnd, kList); }
+
+    bool IsTicked(int row) const {
+        const LRESULT state =
+            SendMessage(List(), LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK);
+        return static_cast<UINT>(state) == INDEXTOSTATEIMAGEMASK(2);
+    }
+
+    // As by a tap on a row's box.
+    void Tick(int row, bool isTicked) const {
+        LVITEM item{};
+        item.state = INDEXTOSTATEIMAGEMASK(isTicked ? 2U : 1U);
+        item.stateMask = LVIS_STATEIMAGEMASK;
+        SendMessage(List(), LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                    reinterpret_cast<LPARAM>(&item));
+    }
+
+    std::unique_ptr<InstallFolder> folder_;
+};
+
+struct Row {
+    int id;
+    const wchar_t* name;
+    bool isCombo;
+    uint32_t stored;
+    int chosen; // Entry.
+    uint32_t saved;
+};
+constexpr Row kRows[] = {
+    {1201, L"ContactsLayout", true, 2, 1, 1},
+    {1203, L"CntctsTitleStruct", true, 1, 2, 2},
+    {1205, L"CntctsPhoneColumnWidth", true, 40, 2, 60},
+    {1207, L"CntctsBreakLineStyle", true, 0, 2, 2},
+    {1208, L"CntctsIncldCounters", false, 0, 1, 1},
+    {1209, L"ContactsTxtByCategoryClr", false, 1, 0, 0},
+    {1210, L"CntctsHideNoPicture", false, 1, 0, 0},
+    {1212, L"CntctsActiveSearchBar", true, 0, 1, 1},
+    {1214, L"CntctsDPadActionOverride", true, 0, 1, 1},
+    {1215, L"CntctsOnClickActionOpenItem", false, 1, 0, 0},
+    {1216, L"CntctsPrvwDlgUponOpenItem", false, 1, 0, 0},
+    {1217, L"CntctsIncldFoldBttns", false, 0, 1, 1},
+};
+
+TEST_F(ContactsPageTest, EveryControlChangesItsOwnSetting) {
+    for (const Row& changed : kRows) {
+        for (const Row& row : kRows)
+            SetNumber(HKEY_CURRENT_USER, kContacts, row.name, row.stored);
+        OpenAndSave();
+        const RegistryTree before = GetTree(HKEY_CURRENT_USER);
+        HWND window = Open();
+        if (changed.isCombo)
+            Choose(window, changed.id, changed.chosen);
+        else
+            Tap(window, changed.id);
+        Close();
+        settingsStore.Save();
+        const uint32_t fallback = changed.isCombo ? 1 : changed.saved; // Defaults are not stored.
+        EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kContacts, changed.name).value_or(fallback),
+                  changed.saved)
+            << changed.id;
+        SetNumber(HKEY_CURRENT_USER, kContacts, changed.name, changed.stored);
+        EXPECT_TRUE(GetTree(HKEY_CURRENT_USER) == before) << "others touched by " << changed.id;
+    }
+}
+
+TEST_F(ContactsPageTest, KeepsWhatItCannotOffer) {
+    for (const Row& row : kRows)
+        SetNumber(HKEY_CURRENT_USER, kContacts, row.name, 4711);
+    SetNumber(HKEY_CURRENT_USER, kContacts, L"CntctsActiveLanguages", 0x80000041);
+    HWND window = Open();
+    EXPECT_EQ(TextOf(GetDlgItem(window, 1205)), L"4711");
+    EXPECT_EQ(IsDlgButtonChecked(window, 1215), 1u);
+    Close();
+    settingsStore.Save();
+    for (const Row& row : kRows)
+        EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kContacts, row.name), 4711u) << row.id;
+
+    window = Open();
+    Choose(window, 1201, 0);
+    Tap(window, 1215);
+    Tick(1, true);
+    Close();
+    EXPECT_EQ(settingsStore.ContactsLayout.value, 0u);
+    EXPECT_EQ(settingsStore.CntctsOnClickActionOpenItem.value, 0u);
+    EXPECT_EQ(settingsStore.CntctsActiveLanguages.value, 0x80000043u);
+}
+
+TEST_F(ContactsPageTest, ListsAlphabetsGoodAndBad) {
+    folder_->Write(L"CustomAlphabets\\Greek.txt", "Letters of Greece\nAB\nCD\nEF\n");
+    folder_->Write(L"CustomAlphabets\\broken.TXT", "Only a name\n");
+    folder_->Write(L"CustomAlphabets\\One.txt", "One\nX\n");
+    folder_->Write(L"CustomAlphabets\\Picture.png", "A\nB\n");
+    SetText(HKEY_CURRENT_USER, kAlphabets, L"0", L"Vanished");
+    SetText(HKEY_CURRENT_USER, kAlphabets, L"1", L"gREEK");
+    SetNumber(HKEY_CURRENT_USER, kAlphabets, L"2", 7);
+    Open();
+    const std::wstring rows = RowsOf(List());
+    const std::wstring unreadable = LanguageText(IDS_ALPHABET_UNREADABLE).CStr();
+    const std::wstring missing = LanguageText(IDS_ALPHABET_MISSING).CStr();
+    const std::wstring buttons = LanguageText(IDS_ALPHABET_BUTTONS).CStr();
+    EXPECT_EQ(rows.substr(rows.find(L"|broken")),
+              L"|broken (" + unreadable + L")|Letters of Greece (" + buttons + L" 3)|One (" +
+                  buttons + L" 1)|Vanished (" + missing + L")");
+    EXPECT_EQ(rows.find(LanguageText(IDS_ALPHABET_ENGLISH).CStr()), 0u);
+    const bool ticked[] = {false, true, false, true};
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(IsTicked(kLanguages + row), ticked[row]) << row;
+    Tick(kLanguages, true);
+    EXPECT_FALSE(IsTicked(kLanguages)) << "what cannot be read cannot be active";
+    Close();
+    settingsStore.Save();
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"0"), L"Vanished") << "nothing was changed";
+    EXPECT_TRUE(HasValue(HKEY_CURRENT_USER, kAlphabets, L"2"));
+
+    Open();
+    Tick(kLanguages + 2, true);
+    Tick(kLanguages + 3, false);
+    Close();
+    EXPECT_TRUE(HasValue(HKEY_CURRENT_USER, kAlphabets, L"2")) << "not before the program's OK";
+    settingsStore.Save();
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"0"), L"Greek");
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"1"), L"One");
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kAlphabets, L"2"));
+}
+
+TEST_F(ContactsPageTest, EnterTicksTheFocusedAlphabet) {
+    Open();
+    ShowTab(2);
+    FocusFirstControl(page_->hwnd);
+    EXPECT_EQ(GetFocus(), List());
+    EXPECT_TRUE(IsTicked(0));
+    SendMessage(List(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessage(List(), WM_KEYDOWN, VK_DOWN, 0);
+    SendMessage(List(), WM_KEYDOWN, VK_SPACE, 0);
+    EXPECT_FALSE(IsTicked(0));
+    EXPECT_TRUE(IsTicked(1));
+    Close();
+    EXPECT_EQ(settingsStore.CntctsActiveLanguages.value, 2u);
+}
+} // namespace
