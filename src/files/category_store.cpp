@@ -70,8 +70,11 @@ void CategoryStore::LoadCategories() {
         categories_.push_back(std::move(category));
     }
     std::ranges::stable_sort(categories_, {}, NameOf);
-    const auto repeated = std::ranges::unique(categories_, {}, NameOf);
-    categories_.erase(repeated.begin(), repeated.end());
+    const auto sameName = [](const auto& left, const auto& right) {
+        return left->name == right->name;
+    };
+    categories_.erase(std::unique(categories_.begin(), categories_.end(), sameName),
+                      categories_.end());
     for (const auto& category : categories_)
         category->icon = LoadCategoryIcon(category->name);
 }

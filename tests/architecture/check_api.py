@@ -16,6 +16,8 @@ ALIASES = {
     "GetWindowLongPtrW": "GetWindowLongW",
     "__mingw_vsnwprintf": "_vsnwprintf",
 }
+# What the device's headers define in place, without a call.
+INLINE_CALLS = {"GetCurrentProcess"}
 # The compiler's own hooks, defined outside its libraries' archives.
 COMPILER_HOOKS = {"__main", "atexit", "___chkstk_ms", "_pei386_runtime_relocator"}
 
@@ -56,7 +58,7 @@ def main():
         name = symbol.removeprefix("__imp_")
         if symbol in defined or symbol in runtime or symbol in COMPILER_HOOKS:
             continue
-        if ALIASES.get(name, name) not in api:
+        if name not in INLINE_CALLS and ALIASES.get(name, name) not in api:
             foreign[name] = file
     for name, file in sorted(foreign.items()):
         print(f"{file.name}: {name} is not a call of Windows CE 4.20")

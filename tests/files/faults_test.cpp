@@ -109,8 +109,8 @@ TEST_F(FaultsTest, SavingDropsWhatItCannotWrite) {
         store_.SaveFilterFile();
     };
     FailEachCall(kAllCalls, prepare, work, [](ULONG nth) {
-        const bool oneOfTwoKeys = GetUserNumber(kRoot, L"OnClick") == 1U ||
-                                  GetUserNumber(kTasks, L"TsksDateFrmt") == 4U;
+        const bool oneOfTwoKeys =
+            GetUserNumber(kRoot, L"OnClick") == 1U || GetUserNumber(kTasks, L"TsksDateFrmt") == 4U;
         EXPECT_TRUE(oneOfTwoKeys) << nth;
     });
 }
@@ -128,8 +128,10 @@ TEST_F(FaultsTest, ExportingKeepsTheOldBackupUntilTheNewOneIsComplete) {
         EXPECT_FALSE(folder_->Has(L"Backup.ovsb.new")) << nth;
     };
     const ULONG files = kCreateFileCalls | kWriteFileCalls | kDeleteFileCalls;
-    FailEachCall(kAllCalls & kRegistryCalls, [] {}, [this] { Export(); }, check);
-    FailEachCall(files, [] {}, [this] { Export(); }, check);
+    FailEachCall(
+        kAllCalls & kRegistryCalls, [] {}, [this] { Export(); }, check);
+    FailEachCall(
+        files, [] {}, [this] { Export(); }, check);
     EXPECT_EQ(folder_->Read(L"Backup.ovsb"), complete);
 }
 
@@ -151,23 +153,29 @@ TEST_F(FaultsTest, ImportingFailsForKeysAndTheFirstLineAlone) {
 
 TEST_F(FaultsTest, SchemesAreWholeOrNotThere) {
     const auto write = [this] { WriteScheme(L"New", store_); };
-    FailEachCall(kFileCalls, [] { DeleteSchemeFile(L"New.scm"); }, write, [this](ULONG nth) {
-        const auto read = folder_->Read(L"Schemes\\New.scm");
-        EXPECT_TRUE(!read || read->ends_with("\"Color\"=dword:-1\r\n")) << nth;
-        EXPECT_TRUE(read || nth != 0);
-    });
+    FailEachCall(
+        kFileCalls, [] { DeleteSchemeFile(L"New.scm"); }, write,
+        [this](ULONG nth) {
+            const auto read = folder_->Read(L"Schemes\\New.scm");
+            EXPECT_TRUE(!read || read->ends_with("\"Color\"=dword:-1\r\n")) << nth;
+            EXPECT_TRUE(read || nth != 0);
+        });
     write();
     SchemeOutcome outcome{};
     const auto read = [&] { outcome = ReadScheme(L"New.scm", store_); };
-    FailEachCall(kCreateFileCalls, [] {}, read, [&](ULONG nth) {
-        EXPECT_EQ(outcome, nth == 0 ? SchemeOutcome::Read : SchemeOutcome::CannotOpen);
-    });
-    FailEachCall(kAllCalls, [] {}, read, [](ULONG) {});
+    FailEachCall(
+        kCreateFileCalls, [] {}, read,
+        [&](ULONG nth) {
+            EXPECT_EQ(outcome, nth == 0 ? SchemeOutcome::Read : SchemeOutcome::CannotOpen);
+        });
+    FailEachCall(
+        kAllCalls, [] {}, read, [](ULONG) {});
     read();
     EXPECT_EQ(outcome, SchemeOutcome::Read);
 }
 
-// --- The battery ----------------------------------------------------------------------------------
+// --- The battery
+// ----------------------------------------------------------------------------------
 
 constexpr wchar_t kRegistryVariable[] = L"OV_TEST_REGISTRY";
 constexpr wchar_t kWriteVariable[] = L"OV_TEST_WRITE";

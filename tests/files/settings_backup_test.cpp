@@ -113,10 +113,11 @@ TEST_F(SettingsBackupTest, ATooLongTextEndsItsKeysList) {
     SetValue(HKEY_CURRENT_USER, kSubkey, L"u", REG_SZ, unterminated.data(), 256);
     SetUserNumber(kSubkey, L"v", 1);
     const std::string backup = Backup();
-    EXPECT_NE(backup.find("\\Values]\r\n\"a\"=\"kept\"\r\n\r\n[Software\\Teskel\\Orvane\\Values\\Sub]"
-                          "\r\n\"u\"=\"" +
-                          std::string(128, 'u') + "\"\r\n\"v\"=dword:1\r\n"),
-              std::string::npos);
+    EXPECT_NE(
+        backup.find("\\Values]\r\n\"a\"=\"kept\"\r\n\r\n[Software\\Teskel\\Orvane\\Values\\Sub]"
+                    "\r\n\"u\"=\"" +
+                    std::string(128, 'u') + "\"\r\n\"v\"=dword:1\r\n"),
+        std::string::npos);
 }
 
 TEST_F(SettingsBackupTest, RestoresSectionBySection) {

@@ -298,7 +298,7 @@ TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     GetWindowRect(GetDlgItem(window, kRight), &strip);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&strip), 2);
     const int bottom = strip.bottom + ScaleY(8 + 42);
-    const auto drawn = [&] { return DrawnPixels(window, bottom - ScaleY(30), bottom); };
+    const auto drawn = [&] { return DrawnPixels(window, bottom - ScaleY(20), bottom); };
     UpdateWindow(window);
     const int plain = drawn();
     EXPECT_GT(plain, 0);

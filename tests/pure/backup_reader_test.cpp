@@ -47,7 +47,8 @@ TEST(BackupReader, ReadsSections) {
     };
     const std::string longLine(1023, 'x');
     const Case cases[] = {
-        {"LF and CR LF", "\n[A]\n\"t\"=\"x\"\n\"n\"=dword:-1\r\n\r\n[A\\B]\r\n\"tt\"=\"\"\r\n\"t\"=\"\"\r\n",
+        {"LF and CR LF",
+         "\n[A]\n\"t\"=\"x\"\n\"n\"=dword:-1\r\n\r\n[A\\B]\r\n\"tt\"=\"\"\r\n\"t\"=\"\"\r\n",
          L"[A]t='x';n=4294967295;[A\\B]tt='';='';", true},
         {"empty", "", L"", false},
         {"only an empty line", "\n", L"", true},
@@ -62,9 +63,10 @@ TEST(BackupReader, ReadsSections) {
         {"text before number", "\n[A]\n\"a\"=\"\"=dword:5\"\n", L"[A]a='\"=dword:5';", true},
         {"a line that fills the buffer ends the section",
          "\n[A]\n" + longLine + "\n\"n\"=dword:1\n", L"[A]", true},
-        {"categories", "\n[::Categories::]\n\"Category\"=\"W\"\n\"FiltersFlag\"=dword:5\n"
-                       "\"Color\"=dword:255\n\"Category\"=\"X\"\n\"F\"=dword:1\n"
-                       "\"Extra\"=dword:2\n\"cOLOR\"=dword:3\n",
+        {"categories",
+         "\n[::Categories::]\n\"Category\"=\"W\"\n\"FiltersFlag\"=dword:5\n"
+         "\"Color\"=dword:255\n\"Category\"=\"X\"\n\"F\"=dword:1\n"
+         "\"Extra\"=dword:2\n\"cOLOR\"=dword:3\n",
          L"<W 5 255><X 1 3>", true},
         {"a category without a colour swallows what follows",
          "\n[::Categories::]\n\"Category\"=\"W\"\n\"F\"=dword:5\n\"Category\"=\"X\"\n"
@@ -72,9 +74,10 @@ TEST(BackupReader, ReadsSections) {
          L"<W 5 6>", true},
         {"a category cut short", "\n[::Categories::]\n\"Category\"=\"W\"\n\"F\"=dword:5\n", L"",
          true},
-        {"filters", "\n[::Filters::]\n\"FilterName\"=\"a \"b\"\"\n\"Index\"=dword:2\n"
-                    "\"VisibleState\"=dword:0\n\"Other\"=dword:9\nbad\nbad\n\"V\"=dword:1\n"
-                    "\"U\"=dword:1\n\n[A]\n\n[::filters::]\n",
+        {"filters",
+         "\n[::Filters::]\n\"FilterName\"=\"a \"b\"\"\n\"Index\"=dword:2\n"
+         "\"VisibleState\"=dword:0\n\"Other\"=dword:9\nbad\nbad\n\"V\"=dword:1\n"
+         "\"U\"=dword:1\n\n[A]\n\n[::filters::]\n",
          L"{a \"b\" 2 0 9}{? ? 1 1}[A][::filters::]", true},
     };
     for (const Case& c : cases) {

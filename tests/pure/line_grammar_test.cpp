@@ -26,9 +26,9 @@ TEST(LineGrammar, SectionHeaders) {
         const wchar_t* name; // Null: refused.
     };
     const Case cases[] = {
-        {L"[a]\n", L"a"},       {L"[]\n", L""},        {L"[a]b]\n", L"a]b"},
-        {L"[a]", nullptr},      {L"[]", nullptr},      {L" [a]\n", nullptr},
-        {L"[a] \n", nullptr},   {L"", nullptr},        {L"\n", nullptr},
+        {L"[a]\n", L"a"},           {L"[]\n", L""},   {L"[a]b]\n", L"a]b"},
+        {L"[a]", nullptr},          {L"[]", nullptr}, {L" [a]\n", nullptr},
+        {L"[a] \n", nullptr},       {L"", nullptr},   {L"\n", nullptr},
         {L"[a\\b c]\r", L"a\\b c"},
     };
     for (const Case& c : cases) {
@@ -52,7 +52,7 @@ TEST(LineGrammar, TextValues) {
         {L"\"a%s\"=\"C:\\new\"\n", L"a%s", L"C:\\new"},
         {L"\"Title\"=\"Work\"\r", L"Title", L"Work"},
         {L"\"=\"text\"\n", L"", L"text"},
-        {L"\"abcd\"=\"\n", L"abcd", L""}, // The mark's own quote is taken for the last one.
+        {L"\"abcd\"=\"\n", L"abcd", L""},   // The mark's own quote is taken for the last one.
         {L"\"\"=\"\"\n", nullptr, nullptr}, // Seven characters.
         {L"\"a\"=\"b\"", nullptr, nullptr},
         {L"\"a\"=\"b\" \n", nullptr, nullptr},
@@ -95,7 +95,8 @@ TEST(LineGrammar, NumberValues) {
     for (const Case& c : cases) {
         std::wstring_view name;
         uint32_t number = 99;
-        EXPECT_EQ(ParseDwordValueLine(c.line, name, number), c.number != 99) << std::wstring(c.line);
+        EXPECT_EQ(ParseDwordValueLine(c.line, name, number), c.number != 99)
+            << std::wstring(c.line);
         EXPECT_TRUE(name == c.name) << std::wstring(c.line);
         EXPECT_EQ(number, c.number) << std::wstring(c.line);
     }
@@ -123,8 +124,7 @@ TEST(LineReader, CutsLongLines) {
 
 TEST(LineReader, ReadsBytesThatAreNoUtf8AsLatin) {
     EXPECT_EQ(LinesOf("\xFC\x80 \xC3\xBC \xE2\x82\xAC \xED\xA0\x80 \xC0\x80 \xF8 \xE2\x82"),
-              (std::vector<std::wstring>{
-                  L"\xFC\x80 \xFC \x20AC \xD800 \xC0\x80 \xF8 \xE2\x82"}));
+              (std::vector<std::wstring>{L"\xFC\x80 \xFC \x20AC \xD800 \xC0\x80 \xF8 \xE2\x82"}));
 }
 
 TEST(LineWriter, WritesWhatTheReaderReads) {

@@ -69,8 +69,7 @@ std::optional<std::string> InstallFolder::Read(const std::wstring& name) const {
     if (file == INVALID_HANDLE_VALUE) return std::nullopt;
     std::string bytes(GetFileSize(file, nullptr), '\0');
     DWORD read = 0;
-    EXPECT_TRUE(
-        ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr));
+    EXPECT_TRUE(ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr));
     CloseHandle(file);
     return bytes;
 }

@@ -22,6 +22,7 @@ class PageFixture : public RegistryFixture {
     void SetUp() override {
         RegistryFixture::SetUp();
         application.instance = GetModuleHandle(nullptr);
+        SetVgaMode(false); // As at start, by the screen's density.
         owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
                                 Scale(268), nullptr, nullptr, application.instance, nullptr);
     }

@@ -21,8 +21,8 @@ std::wstring EntriesOf(HWND combo);
 // A point in the middle of a window's client area, as a mouse message carries it.
 LPARAM MiddleOf(HWND window);
 
-// Answers the next message boxes of this thread with a button (IDYES …), or OK where there is no such
-// button, while it lives, and keeps what the last one said.
+// Answers the next message boxes of this thread with a button (IDYES …), or OK where there is no
+// such button, while it lives, and keeps what the last one said.
 class MessageBoxAnswer {
   public:
     explicit MessageBoxAnswer(int button);
