@@ -137,30 +137,6 @@ TEST_F(CalendarOptionsTest, EveryOptionShowsAndStoresItsOwnSetting) {
     }
 }
 
-// The rows stand in the order of their options, and each list is complete.
-TEST_F(CalendarOptionsTest, ListsEveryOption) {
-    OpenAt(0);
-    const struct {
-        int list;
-        int rows;
-        UINT last;
-    } lists[] = {{kTaskList, 13, IDS_CALENDAR_TASKS_CONFIRM},
-                 {kDayList, 16, IDS_CALENDAR_DAYS_LINES_WIDTH},
-                 {kMonthList, 10, IDS_CALENDAR_MONTH_PINNED},
-                 {kMailList, 7, IDS_CALENDAR_MAIL_COUNTER},
-                 {kMiscellaneousList, 7, IDS_CALENDAR_MISC_ORDER}};
-    for (const auto& list : lists) {
-        ASSERT_EQ(RowCount(Control(list.list)), list.rows);
-        wchar_t text[128] = L"";
-        LVITEM item{};
-        item.pszText = text;
-        item.cchTextMax = 128;
-        SendMessage(Control(list.list), LVM_GETITEMTEXT, static_cast<WPARAM>(list.rows - 1),
-                    reinterpret_cast<LPARAM>(&item));
-        EXPECT_STREQ(text, LanguageText(list.last).CStr());
-    }
-}
-
 TEST_F(CalendarOptionsTest, StoresAnOptionOnceWhenItLosesTheSelection) {
     settingsStore.IncldTasksInCR.Set(1);
     settingsStore.TasksSubsortOnCal.Set(2);
