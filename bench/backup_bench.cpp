@@ -60,7 +60,7 @@ void EnumerateTree(HKEY parent, const wchar_t* path) {
         }
     }
     WideString subkey;
-    for (DWORD index = 0; SubkeyName(key.Get(), index, subkey); ++index)
+    for (DWORD index = 0; SubkeyName(key.Get(), index, subkey) == ERROR_SUCCESS; ++index)
         EnumerateTree(key.Get(), subkey.CStr());
 }
 
@@ -69,7 +69,9 @@ void DeleteTree() {
 }
 
 void Export() {
-    RewriteFile(kBackup, [](ByteSink& file) { WriteBackup(categoryStore, file); });
+    ReplacementFile file(kBackup);
+    WriteBackup(categoryStore, file);
+    file.Commit();
 }
 
 bool Import() {
@@ -127,7 +129,10 @@ Measured Measure(int rounds, Prepare prepare, const std::wstring& loop, const st
         prepare();
         times[0].push_back(Milliseconds([&] { Run(loop); }));
         prepare();
-        times[1].push_back(Milliseconds([&] { peak = std::max(peak, Run(ours)); }));
+        DWORD used = 0;
+        times[1].push_back(Milliseconds([&] { used = Run(ours); }));
+        if (used == 0) std::printf("ours failed; its times mean nothing\n");
+        peak = std::max(peak, used);
         prepare();
         times[2].push_back(Milliseconds([&] { Run(foreign); }));
     }
@@ -198,6 +203,10 @@ void CompareTrees() {
 
 int main(int argc, char** argv) {
     if (argc == 3) return RunChild(argv[1], atoi(argv[2]));
+    if (UniqueKey(OpenExistingKey(HKEY_CURRENT_USER, kSettingsKey))) {
+        std::printf("it deletes the settings: run it by bench/run, on a device of its own\n");
+        return 1;
+    }
     PrintHeading();
     CompareTrees();
     return 0;
