@@ -170,7 +170,9 @@ void NotesPage::LoadCustomRow(HWND window, const FormRow& row) {
     } else if (row.id == kNoteFiles) {
         LoadFileTypes(window);
     } else if (row.id == kFolders) {
-        folders_.Fill(ReadTextList(SettingGroup::Notes, kFoldersKey));
+        const auto paths = ReadTextList(SettingGroup::Notes, kFoldersKey);
+        foldersAreKnown_ = paths.has_value();
+        if (paths) folders_.Fill(*paths);
     }
 }
 
@@ -181,7 +183,7 @@ void NotesPage::SaveCustomRow(HWND window, const FormRow& row) {
         settingsStore.NotesCustomSearchBarSelected.Set(choice.custom.CStr());
     } else if (row.id == kNoteFiles) {
         SaveFileTypes(window);
-    } else if (row.id == kFolders) {
+    } else if (row.id == kFolders && foldersAreKnown_) {
         WriteTextList(SettingGroup::Notes, kFoldersKey, folders_.Paths());
     }
 }

@@ -25,4 +25,5 @@ class NotesPage final : public FormPage {
 
     SearchBarChooser searchBar_;
     FolderList folders_;
+    bool foldersAreKnown_ = false; // They could be read, and so may be replaced.
 };

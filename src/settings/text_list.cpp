@@ -10,6 +10,7 @@
 
 namespace {
 constexpr size_t kMaxName = 256;
+constexpr REGSAM kAnyAccess = 0; // The device gives every access whatever is asked.
 
 WideString PathOf(SettingGroup group, const wchar_t* subkey) {
     WideString path(KeyOfGroup(group).path);
@@ -19,10 +20,13 @@ WideString PathOf(SettingGroup group, const wchar_t* subkey) {
 }
 } // namespace
 
-std::vector<WideString> ReadTextList(SettingGroup group, const wchar_t* subkey) {
+std::optional<std::vector<WideString>> ReadTextList(SettingGroup group, const wchar_t* subkey) {
     std::vector<WideString> texts;
-    const UniqueKey key(OpenExistingKey(KeyOfGroup(group).root, PathOf(group, subkey).CStr()));
-    if (!key) return texts;
+    UniqueKey key;
+    const LSTATUS opened = RegOpenKeyEx(KeyOfGroup(group).root, PathOf(group, subkey).CStr(), 0,
+                                        kAnyAccess, key.Receive());
+    if (opened == ERROR_FILE_NOT_FOUND) return texts;
+    if (opened != ERROR_SUCCESS) return std::nullopt;
     for (DWORD index = 0;; ++index) {
         wchar_t name[kMaxName + 1];
         auto length = static_cast<DWORD>(std::size(name));
@@ -30,9 +34,10 @@ std::vector<WideString> ReadTextList(SettingGroup group, const wchar_t* subkey) 
         const LSTATUS status =
             RegEnumValue(key.Get(), index, name, &length, nullptr, &type, nullptr, nullptr);
         if (status == ERROR_MORE_DATA) continue; // A name too long to be one of a list's.
-        if (status != ERROR_SUCCESS) return texts;
-        WideString text;
-        if (type == REG_SZ && ReadText(key.Get(), name, text)) texts.push_back(std::move(text));
+        if (status == ERROR_NO_MORE_ITEMS) return texts;
+        if (status != ERROR_SUCCESS) return std::nullopt;
+        if (type != REG_SZ) continue;
+        if (!ReadText(key.Get(), name, texts.emplace_back())) return std::nullopt;
     }
 }
 
@@ -50,7 +55,9 @@ void WriteTextList(SettingGroup group, const wchar_t* subkey, std::span<const Wi
 void TextListSetting::Load(SettingGroup group, const wchar_t* subkey) {
     group_ = group;
     subkey_ = subkey;
-    texts_ = ReadTextList(group, subkey);
+    auto texts = ReadTextList(group, subkey);
+    isKnown_ = texts.has_value();
+    texts_ = isKnown_ ? std::move(*texts) : std::vector<WideString>();
     changed_ = false;
 }
 
@@ -60,5 +67,5 @@ void TextListSetting::Set(std::vector<WideString> texts) {
 }
 
 void TextListSetting::Save() const {
-    if (changed_) WriteTextList(group_, subkey_, texts_);
+    if (changed_ && isKnown_) WriteTextList(group_, subkey_, texts_);
 }

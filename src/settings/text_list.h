@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -12,14 +13,16 @@
 // named by their position: "0", "1", … No registry failure is reported.
 
 // The texts of the subkey in the order in which the platform enumerates its values, whatever their
-// names (up to 256 characters); values of other types are passed over. None where there is no such
-// key.
-[[nodiscard]] std::vector<WideString> ReadTextList(SettingGroup group, const wchar_t* subkey);
+// names (up to 256 characters); values of other types are passed over. A subkey that is missing
+// holds an empty list. None when the platform cannot tell: such a list is not to be replaced.
+[[nodiscard]] std::optional<std::vector<WideString>> ReadTextList(SettingGroup group,
+                                                                  const wchar_t* subkey);
 
 // Replaces the subkey, with all that it holds; an empty text leaves out its position.
 void WriteTextList(SettingGroup group, const wchar_t* subkey, std::span<const WideString> texts);
 
-// A list that is loaded and saved with the store.
+// A list that is loaded and saved with the store. One that could not be read is empty, and stays as
+// it is in the registry.
 class TextListSetting {
   public:
     void Load(SettingGroup group, const wchar_t* subkey);
@@ -32,5 +35,6 @@ class TextListSetting {
     SettingGroup group_ = SettingGroup::Root;
     const wchar_t* subkey_ = nullptr;
     std::vector<WideString> texts_;
+    bool isKnown_ = false;
     bool changed_ = false;
 };

@@ -10,6 +10,7 @@
 #include "tests/support/dialog_steps.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
+#include "tests/support/resource_count.h"
 
 namespace {
 constexpr wchar_t kNotes[] = L"Software\\Teskel\\Orvane\\Notes";
@@ -189,6 +190,24 @@ TEST_F(NotesPageTest, ListsTheStoredFoldersThatExist) {
     EXPECT_FALSE(HasKey(HKEY_CURRENT_USER, std::wstring(kFolders) + L"\\Below"));
 }
 
+TEST_F(NotesPageTest, LeavesFoldersAloneThatItCouldNotRead) {
+    SetText(HKEY_CURRENT_USER, kFolders, L"0", A());
+    SetText(HKEY_CURRENT_USER, kFolders, L"1", B());
+    Open();
+    Close();
+    for (const StandInCalls call : {kRegOpenKeyCalls, kRegEnumValueCalls, kRegQueryValueCalls}) {
+        settingsStore.Load(application.languageLibrary);
+        StandInResetCalls();
+        StandInFailCall(call, 1, ERROR_ACCESS_DENIED);
+        page_.reset(CreatePage(owner_, 3));
+        EXPECT_EQ(RowsOf(List()), L"") << call;
+        Close();
+        StandInResetCalls();
+        EXPECT_EQ(GetText(HKEY_CURRENT_USER, kFolders, L"0"), A()) << call;
+        EXPECT_EQ(GetText(HKEY_CURRENT_USER, kFolders, L"1"), B()) << call;
+    }
+}
+
 TEST_F(NotesPageTest, AddsAFolderOnce) {
     SetText(HKEY_CURRENT_USER, kFolders, L"0", A());
     Open();
@@ -239,5 +258,24 @@ TEST_F(NotesPageTest, RemovesTheSelectedFolder) {
     Close();
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kFolders, L"0"), B());
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kFolders, L"1"), A());
+}
+
+TEST_F(NotesPageTest, LeavesNoIconsBehind) {
+    SetText(HKEY_CURRENT_USER, kFolders, L"0", A());
+    SetText(HKEY_CURRENT_USER, kFolders, L"1", B());
+    const auto visit = [this] {
+        Open();
+        ShowTab(3);
+        PumpMessages();
+        Close();
+    };
+    for (int i = 0; i < 3; ++i)
+        visit(); // What is made once stays.
+    const size_t objects = CountGdiObjects();
+    const size_t handle = HighestUserHandle();
+    for (int i = 0; i < 10; ++i)
+        visit();
+    EXPECT_EQ(CountGdiObjects(), objects);
+    EXPECT_EQ(HighestUserHandle(), handle);
 }
 } // namespace

@@ -176,7 +176,7 @@ TEST_F(TabListTest, AKeyThatCannotBeOpenedHoldsNoTabs) {
     SetUserNumber(kTabs, L"MailTabOrder", 1);
 
     // The subkey alone: the tab is there, with its defaults.
-    StandInFailCall(kRegOpenKeyCalls, 8, ERROR_ACCESS_DENIED);
+    StandInFailCall(kRegOpenKeyCalls, 9, ERROR_ACCESS_DENIED);
     LoadInto(*store);
     EXPECT_EQ(OrderOf(store->tabs), L"2 32 4 16 64 8 hosted ");
     StandInResetCalls();
