@@ -14,6 +14,7 @@ import sys
 ALIASES = {
     "SetWindowLongPtrW": "SetWindowLongW",
     "GetWindowLongPtrW": "GetWindowLongW",
+    "SHGetFileInfoW": "SHGetFileInfo",
     "__mingw_vsnwprintf": "_vsnwprintf",
 }
 # What the device's headers define in place, without a call.
