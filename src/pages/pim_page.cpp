@@ -153,8 +153,8 @@ HWND ApplicationCombo(HWND window) {
     return GetDlgItem(window, static_cast<int>(kApplication));
 }
 
-// Back to what was confirmed last: a list that is left by Escape, or by a tap elsewhere, keeps the
-// entry that was under the pen, which nobody has checked.
+// Back to what was confirmed last: a list that is left by Escape, by a tap elsewhere or with the
+// page keeps the entry that was highlighted, which nobody has checked.
 void ShowConfirmed(HWND window) {
     HWND combo = ApplicationCombo(window);
     if (!SelectData(combo, settingsStore.PimSw.value)) SelectIndex(combo, 0);
@@ -180,10 +180,4 @@ void PimPage::OnApplicationChosen(HWND window) {
     ApplyRules(window);
     // Last, as the page may be closed and gone when the user is done with it.
     if (isRefused) ShowMessage(window, IDS_PIM_NOT_INSTALLED, IDS_PIM_NOT_INSTALLED_CAPTION);
-}
-
-void PimPage::SaveValues(HWND window, WPARAM wParam) {
-    // The page may be closed while the list is open.
-    if (SendMessage(ApplicationCombo(window), CB_GETDROPPEDSTATE, 0, 0)) ShowConfirmed(window);
-    FormPage::SaveValues(window, wParam);
 }

@@ -9,7 +9,6 @@ class PimPage final : public FormPage {
     PimPage();
 
     LRESULT OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
-    void SaveValues(HWND window, WPARAM wParam) override;
 
   private:
     void OnApplicationChosen(HWND window);

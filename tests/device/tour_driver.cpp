@@ -34,6 +34,7 @@ constexpr int kGeneral = 0;
 constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
 constexpr int kNotes = 3;
+constexpr int kContacts = 4;
 constexpr int kPim = 9;
 constexpr UINT kSkinBrowse = 1214;
 constexpr UINT kRemoveFolder = 1216;
@@ -137,6 +138,12 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kNotes && tab == 3) {
             TapOn(GetDlgItem(page, kRemoveFolder));
             ShowMessageBox(program, "message-nothing-selected");
+        }
+        if (row == kContacts && tab == 2) {
+            Press(VK_TAB);
+            Press(VK_DOWN);
+            Press(VK_RETURN);
+            Show("list-ticked-by-keys");
         }
         if (row == kPim && tab == 0) {
             Press(VK_LEFT); // From the application that is installed to the one that is not.

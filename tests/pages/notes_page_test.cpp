@@ -62,37 +62,12 @@ class NotesPageTest : public PageFixture {
 };
 
 TEST_F(NotesPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        bool isCombo;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    constexpr Row kRows[] = {
+    constexpr ControlCase kControls[] = {
         {1201, L"NotesActiveSearchBar", true, 0, 1}, {1203, L"NotesPreviewNotesState", true, 1, 0},
         {1205, L"NotesBreakLineStyle", true, 0, 2},  {1206, L"NotesIncldFoldBttns", false, 0, 1},
         {1207, L"NotesIncldCounters", false, 0, 1},
     };
-    for (const Row& changed : kRows) {
-        for (const Row& row : kRows)
-            SetNumber(HKEY_CURRENT_USER, kNotes, row.name, row.stored);
-        HWND window = Open();
-        if (changed.isCombo)
-            Choose(window, changed.id, static_cast<int>(changed.chosen));
-        else
-            Tap(window, changed.id);
-        Close();
-        settingsStore.Save();
-        window = Open();
-        for (const Row& row : kRows) {
-            EXPECT_EQ(
-                SendDlgItemMessage(window, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
-                static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
+    ExpectEachControlToSaveItsOwn(kNotes, kControls);
 }
 
 TEST_F(NotesPageTest, TheSearchBarMayBeACustomAlphabet) {

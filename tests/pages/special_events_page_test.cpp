@@ -27,14 +27,7 @@ class SpecialEventsPageTest : public PageFixture {
 };
 
 TEST_F(SpecialEventsPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        bool isCombo;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    constexpr Row kRows[] = {
+    constexpr ControlCase kControls[] = {
         {1201, L"SEventDays", true, 1, 0},
         {1203, L"SEAlertBeforeDays", true, 0, 15},
         {1205, L"SEDateFormat", true, 4, 3},
@@ -44,25 +37,7 @@ TEST_F(SpecialEventsPageTest, EveryControlShowsAndSavesItsOwnSetting) {
         {1222, L"IncldFoldBttns", false, 0, 1},
         {1223, L"IncldCounters", false, 0, 1},
     };
-    for (const Row& changed : kRows) {
-        for (const Row& row : kRows)
-            SetNumber(HKEY_CURRENT_USER, kEvents, row.name, row.stored);
-        HWND window = Open();
-        if (changed.isCombo)
-            Choose(window, changed.id, static_cast<int>(changed.chosen));
-        else
-            Tap(window, changed.id);
-        Close();
-        settingsStore.Save();
-        window = Open();
-        for (const Row& row : kRows) {
-            EXPECT_EQ(
-                SendDlgItemMessage(window, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
-                static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
+    ExpectEachControlToSaveItsOwn(kEvents, kControls);
 }
 
 TEST_F(SpecialEventsPageTest, ShowsNumbersForPositions) {

@@ -75,14 +75,7 @@ class TasksPageTest : public PageFixture {
 
 // Every number of the forms, each by the control that edits it: two that were swapped would show.
 TEST_F(TasksPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        bool isCombo;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    const Row rows[] = {
+    constexpr ControlCase kControls[] = {
         {1201, L"TsksDateFrmt", true, 11, 4},
         {1203, L"TsksLimitFutureDate", true, 7, 2},
         {1204, L"HideCompletedTasks", false, 1, 0},
@@ -97,27 +90,7 @@ TEST_F(TasksPageTest, EveryControlShowsAndSavesItsOwnSetting) {
         {1221, L"UseCustomDateTsks", false, 1, 0},
         {1227, L"TsksCustomDateStruct", true, 2, 0},
     };
-    const auto shown = [this](const Row& row) {
-        return static_cast<uint32_t>(SendDlgItemMessage(
-            page_->hwnd, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0));
-    };
-    for (const Row& changed : rows) {
-        for (const Row& row : rows)
-            SetNumber(HKEY_CURRENT_USER, kTasks, row.name, row.stored);
-        HWND window = Open();
-        if (changed.isCombo)
-            Choose(window, changed.id, static_cast<int>(changed.chosen));
-        else
-            Tap(window, changed.id);
-        Close();
-        settingsStore.Save();
-        Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(shown(row), row.id == changed.id ? row.chosen : row.stored)
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
+    ExpectEachControlToSaveItsOwn(kTasks, kControls);
 }
 
 TEST_F(TasksPageTest, SavesTheTextsOfCustomDatesAsTyped) {
