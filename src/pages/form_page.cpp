@@ -35,6 +35,20 @@ void ShowNumber(HWND combo, const FormRow& row) {
     if (!SelectData(combo, (settingsStore.*row.setting).value) && !row.keepsOthers)
         SelectData(combo, row.fallback);
 }
+
+void SaveBox(HWND window, const FormRow& row) {
+    const bool isChecked = IsBoxChecked(window, row.id);
+    if (row.keepsOthers && isChecked == IsShownChecked(row)) return;
+    (settingsStore.*row.setting).Set(isChecked ? 1 : 0);
+}
+
+void SaveNumber(HWND window, const FormRow& row) {
+    const int index = SelectedIndex(window, row.id);
+    if (row.keepsOthers && index < 0) return;
+    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
+    (settingsStore.*row.setting)
+        .Set(row.kind == RowKind::Number ? SelectedData(combo) : static_cast<uint32_t>(index));
+}
 } // namespace
 
 int FormPage::GetTabCount() const {
@@ -171,20 +185,6 @@ void FormPage::SaveRow(HWND window, const FormRow& row) {
         SaveCustomRow(window, row);
         break;
     }
-}
-
-void FormPage::SaveBox(HWND window, const FormRow& row) {
-    const bool isChecked = IsBoxChecked(window, row.id);
-    if (row.keepsOthers && isChecked == IsShownChecked(row)) return;
-    (settingsStore.*row.setting).Set(isChecked ? 1 : 0);
-}
-
-void FormPage::SaveNumber(HWND window, const FormRow& row) {
-    const int index = SelectedIndex(window, row.id);
-    if (row.keepsOthers && index < 0) return;
-    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
-    (settingsStore.*row.setting)
-        .Set(row.kind == RowKind::Number ? SelectedData(combo) : static_cast<uint32_t>(index));
 }
 
 LRESULT FormPage::OnCommand(HWND window, UINT, WPARAM wParam, LPARAM lParam) {

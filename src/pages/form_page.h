@@ -92,8 +92,6 @@ class FormPage : public SettingsPage {
     void PlaceRow(HWND window, const FormRow& row, RowLayout& layout);
     void LoadRow(HWND window, const FormRow& row);
     void SaveRow(HWND window, const FormRow& row);
-    void SaveBox(HWND window, const FormRow& row);
-    void SaveNumber(HWND window, const FormRow& row);
     [[nodiscard]] const FormRow* PathRowOfButton(UINT id) const;
     void OnPathButton(HWND window, const FormRow& row, UINT id);
 
