@@ -117,7 +117,7 @@ LRESULT ColoursPage::Layout(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
     const auto place = [window](UINT id, int left, int top, int width) {
-        MoveWindow(Item(window, id), Scale(left), top, Scale(width), ScaleY(kRowHeight), TRUE);
+        PlaceControl(Item(window, id), {Scale(left), top, Scale(width), ScaleY(kRowHeight)});
     };
     PlaceSampleList(window, kColours, normalFont);
     PlaceSampleButton(window, kEdit, L"", normalFont);

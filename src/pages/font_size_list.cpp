@@ -9,12 +9,8 @@ constexpr int32_t kLargest = 30;
 } // namespace
 
 void FillFontSizes(HWND combo, uint32_t size) {
-    for (int32_t entry = kSmallest; entry <= kLargest; ++entry) {
-        const DecimalText text(entry);
-        const LRESULT index =
-            SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.CStr()));
-        SendMessage(combo, CB_SETITEMDATA, static_cast<WPARAM>(index), entry);
-    }
+    for (int32_t entry = kSmallest; entry <= kLargest; ++entry)
+        AddEntry(combo, DecimalText(entry).CStr(), static_cast<uint32_t>(entry));
     SelectIndex(combo, size - kSmallest);
 }
 

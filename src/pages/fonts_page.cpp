@@ -3,7 +3,7 @@
 #include <aygshell.h>
 #include <commctrl.h>
 
-#include <algorithm>
+#include <iterator>
 
 #include "pages/font_size_list.h"
 #include "pages/font_style_dialog.h"
@@ -142,8 +142,7 @@ constexpr ItemTexts kItemTexts[] = {
 static_assert(std::size(kItemTexts) == static_cast<size_t>(FontId::Count));
 
 int CALLBACK AddFace(const LOGFONT* font, const TEXTMETRIC*, DWORD, LPARAM combo) {
-    SendMessage(reinterpret_cast<HWND>(combo), CB_ADDSTRING, 0,
-                reinterpret_cast<LPARAM>(font->lfFaceName));
+    AddEntry(reinterpret_cast<HWND>(combo), font->lfFaceName);
     return 1;
 }
 

@@ -62,7 +62,7 @@ void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font) {
     const ControlPlace place{ClientSize(page).cx - Scale(kButtonFromRight), ScaleY(kSwatchTop),
                              Scale(kButtonWidth), ScaleY(kRowHeight)};
     if (HWND button = GetDlgItem(page, static_cast<int>(id)))
-        MoveWindow(button, place.x, place.y, place.width, place.height, TRUE);
+        PlaceControl(button, place);
     else
         CreateControl(page, L"BUTTON", text, WS_TABSTOP, id, place, font);
 }

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "pages/calendar_page.h"
 #include "pages/colours_page.h"
 #include "pages/fonts_page.h"
 #include "pages/general_page.h"
@@ -17,20 +18,9 @@ struct PageEntry {
     SettingsPage* (*make)();
 };
 
-SettingsPage* MakeGeneral() {
-    return new (std::nothrow) GeneralPage;
-}
-
-SettingsPage* MakeTasks() {
-    return new (std::nothrow) TasksPage;
-}
-
-SettingsPage* MakeFonts() {
-    return new (std::nothrow) FontsPage;
-}
-
-SettingsPage* MakeColours() {
-    return new (std::nothrow) ColoursPage;
+template <typename Page>
+SettingsPage* MakePage() {
+    return new (std::nothrow) Page;
 }
 
 template <UINT... titles>
@@ -40,12 +30,9 @@ SettingsPage* MakeOutline() {
 }
 
 constexpr PageEntry kPages[kPageCount] = {
-    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakeGeneral},
-    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_CALENDAR_APPOINTMENTS, IDS_TAB_CALENDAR_TASKS,
-                 IDS_TAB_CALENDAR_DAY_TITLES, IDS_TAB_CALENDAR_ICONS, IDS_TAB_CALENDAR_MONTH,
-                 IDS_TAB_CALENDAR_MAIL, IDS_TAB_CALENDAR_WEATHER, IDS_TAB_MISCELLANEOUS>},
-    {IDS_PAGE_TASKS, L"TasksSettingsWin", MakeTasks},
+    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakePage<GeneralPage>},
+    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
+    {IDS_PAGE_TASKS, L"TasksSettingsWin", MakePage<TasksPage>},
     {IDS_PAGE_NOTES, L"NotesSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin",
@@ -53,8 +40,8 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES>},
     {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin",
      MakeOutline<IDS_TAB_SEVENTS_DISPLAY, IDS_TAB_SEVENTS_FILTERS, IDS_TAB_TITLES>},
-    {IDS_PAGE_FONTS, L"FontSettingsWin", MakeFonts},
-    {IDS_PAGE_COLOURS, L"ColorSettingsWin", MakeColours},
+    {IDS_PAGE_FONTS, L"FontSettingsWin", MakePage<FontsPage>},
+    {IDS_PAGE_COLOURS, L"ColorSettingsWin", MakePage<ColoursPage>},
     {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
     {IDS_PAGE_TABS, L"TabsSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},

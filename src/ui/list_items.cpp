@@ -5,9 +5,9 @@
 #include <cwchar>
 
 #include "resource_ids.h"
-#include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/controls.h"
+#include "ui/messages.h"
 
 namespace {
 constexpr int kFirstColumnWidth = 300;
@@ -133,8 +133,7 @@ void ClearSelection(HWND list) {
 void MoveSelectedRow(HWND owner, HWND list, bool up) {
     const int row = SelectedRow(list);
     if (row < 0) {
-        MessageBox(owner, LanguageText(IDS_NOTHING_SELECTED_TEXT).CStr(),
-                   LanguageText(IDS_NOTHING_SELECTED_CAPTION).CStr(), MB_OK);
+        ShowMessage(owner, IDS_NOTHING_SELECTED_TEXT, IDS_NOTHING_SELECTED_CAPTION);
         return;
     }
     const int target = up ? row - 1 : row + 1;
