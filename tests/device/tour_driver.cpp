@@ -137,6 +137,9 @@ void ShowPicker(const Program& program) {
     Show("picker-values");
     SendDlgItemMessage(picker, kRedEdit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"7"));
     Show("picker-changed");
+    // The button in the middle of the bar raises the input panel.
+    TapAt(GetSystemMetrics(SM_CXSCREEN) / 2, GetSystemMetrics(SM_CYSCREEN) - 8);
+    Show("picker-panel");
     Close(picker, IDCANCEL);
 }
 

@@ -11,6 +11,7 @@
 #include "shell/services/resource_strings.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/page_fixture.h"
+#include "ui/key_navigation.h"
 #include "ui/list_items.h"
 
 namespace {
@@ -157,6 +158,12 @@ TEST_F(FontsPageTest, EditsTheStyleOfOneItem) {
         EXPECT_EQ(IsDlgButtonChecked(dialog, IDC_FONT_STRIKE_OUT), 1u);
         EXPECT_EQ(IsDlgButtonChecked(dialog, IDC_FONT_BOLD), 0u);
         EXPECT_NE(SHFindMenuBar(dialog), nullptr);
+        for (const int id : {IDC_FONT_SIZE, IDC_FONT_BOLD, IDC_FONT_ITALIC, IDC_FONT_UNDERLINE,
+                             IDC_FONT_STRIKE_OUT, IDC_FONT_SET_COLOUR}) {
+            EXPECT_EQ(GetFocus(), GetDlgItem(dialog, id)) << "reached by the Down key";
+            const MSG down{GetFocus(), WM_KEYDOWN, VK_DOWN, 0, 0, {}};
+            EXPECT_TRUE(TranslateNavigationKey(dialog, down));
+        }
         Tap(dialog, IDC_FONT_STRIKE_OUT);
         Tap(dialog, IDC_FONT_BOLD);
         Tap(dialog, IDC_FONT_ITALIC);
