@@ -7,6 +7,7 @@
 #include "shell/services/window_class.h"
 #include "ui/colour_box.h"
 #include "ui/key_navigation.h"
+#include "ui/list_selection.h"
 #include "ui/tab_strip.h"
 
 namespace {
@@ -79,7 +80,7 @@ LRESULT OnNotification(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lP
     default:
         page.OnNotify(window, WM_NOTIFY, wParam, header);
     }
-    return 0;
+    return DrawListSelection(*header);
 }
 
 // The main window closes and deletes the page inside this call: nothing may touch it after.

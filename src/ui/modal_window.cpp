@@ -3,6 +3,7 @@
 #include "shell/services/application.h"
 #include "shell/services/window_class.h"
 #include "ui/controls.h"
+#include "ui/list_selection.h"
 
 namespace {
 // The navigation bar shows the title of the program's main window, or that of a dialog which owns
@@ -89,7 +90,7 @@ LRESULT ModalWindow::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
         return 0;
     case WM_NOTIFY:
         OnNotify(window, *reinterpret_cast<const NMHDR*>(lParam));
-        return 0;
+        return DrawListSelection(*reinterpret_cast<const NMHDR*>(lParam));
     case WM_HSCROLL:
         OnScroll(window, reinterpret_cast<HWND>(lParam));
         return 0;
