@@ -31,6 +31,7 @@ constexpr PageSight kPages[kPageCount] = {
     {"category", L"CategorySettingsWin"},
 };
 constexpr int kGeneral = 0;
+constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
 constexpr UINT kSkinBrowse = 1214;
 
@@ -73,6 +74,41 @@ void ShowIconChooser(HWND page) {
     Show("tooltip-icon");
 }
 
+// The ways in which the Calendar page shows an option, by the tab and row of one that is so shown.
+struct OptionSight {
+    int tab;
+    int row;
+    const char* name;
+};
+constexpr OptionSight kOptions[] = {
+    {2, 0, "option-box"},  {3, 0, "option-choice"}, {5, 9, "option-format"},
+    {6, 4, "option-path"}, {8, 5, "option-text"},   {8, 6, "option-order"},
+};
+
+// The list is reached and its rows are selected by keys.
+void ShowOptions(int tab) {
+    int row = -1;
+    for (const OptionSight& option : kOptions) {
+        if (option.tab != tab) continue;
+        if (row < 0) {
+            Press(VK_TAB);
+            Press(VK_RETURN);
+            row = 0;
+        }
+        for (; row < option.row; ++row)
+            Press(VK_DOWN);
+        Show(option.name);
+    }
+}
+
+// The panel's drop-down list, which stands above the first row.
+void ShowOpenChoice() {
+    Press(VK_UP);
+    Press(VK_RETURN);
+    Show("option-choice-open");
+    Press(VK_ESCAPE);
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -84,10 +120,42 @@ bool ShowPage(const Program& program, HWND main, int row) {
         std::snprintf(name, sizeof(name), "page-%02d-%s-%d", row, kPages[row].name, tab + 1);
         Show(name);
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
+        if (row == kCalendar) ShowOptions(tab);
+        if (row == kCalendar && tab == 3) ShowOpenChoice();
         if (row == kTasks && tab == 2) ShowIconChooser(page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
     return WaitUntil([page] { return !IsWindow(page); });
+}
+
+// The file dialogs, and what is said of a file that is no backup.
+void ShowBackups(const Program& program, HWND main) {
+    PostMessage(main, WM_COMMAND, IDC_EXPORT_BACKUP, 0);
+    if (HWND dialog = program.WaitForWindow(L"SaveFileWin")) {
+        Show("dialog-save-file");
+        PostMessage(dialog, WM_COMMAND, IDOK, 0);
+        HWND message = program.WaitForMessageBox();
+        Show("message-exported");
+        PostMessage(message, WM_COMMAND, IDOK, 0);
+        WaitUntil([&] { return !IsWindow(dialog); });
+    }
+    PostMessage(main, WM_COMMAND, IDC_IMPORT_BACKUP, 0);
+    if (HWND dialog = program.WaitForWindow(L"LoadFileWin")) {
+        Show("dialog-open-file");
+        PostMessage(dialog, WM_COMMAND, IDOK, 0);
+        HWND refusal = program.WaitForMessageBox();
+        Show("message-file-name");
+        PostMessage(refusal, WM_COMMAND, IDOK, 0);
+        WaitUntil([&] { return !IsWindow(refusal); });
+        constexpr int kNameBox = 111;
+        SendMessage(GetDlgItem(dialog, kNameBox), WM_SETTEXT, 0,
+                    reinterpret_cast<LPARAM>(L"No such file"));
+        PostMessage(dialog, WM_COMMAND, IDOK, 0);
+        HWND message = program.WaitForMessageBox();
+        Show("message-not-imported");
+        PostMessage(message, WM_COMMAND, IDOK, 0);
+        WaitUntil([&] { return !IsWindow(message); });
+    }
 }
 
 void ShowMenu(WORD softKey, const char* name) {
@@ -108,6 +176,7 @@ int main() {
     for (int row = 0; row < kPageCount; ++row) {
         if (!ShowPage(program, main, row)) return 1;
     }
+    ShowBackups(program, main);
     PostMessage(main, WM_COMMAND, IDC_ABOUT, 0);
     if (HWND about = program.WaitForWindow(L"AboutWin")) {
         Show("dialog-about");
