@@ -14,20 +14,13 @@
 #include "tests/settings/every_setting.h"
 #include "tests/settings/store_fixture.h"
 #include "tests/support/install_folder.h"
+#include "tests/support/resource_count.h"
 
 namespace {
 
 constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
 // A key that the platform fails to close stays open, whatever the program does.
 constexpr ULONG kAllCalls = (kRegistryCalls | kFileCalls) & ~kRegCloseKeyCalls;
-
-// A handle's value tells how many are open below it.
-size_t LowestFreeHandle() {
-    HANDLE event = CreateEvent(nullptr, FALSE, FALSE, nullptr);
-    const auto value = reinterpret_cast<size_t>(event);
-    CloseHandle(event);
-    return value;
-}
 
 class FaultsTest : public StoreFixture {
   protected:
