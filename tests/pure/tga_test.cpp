@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace {
@@ -23,7 +24,7 @@ struct Header {
 };
 
 Bytes File(const Header& header, const Bytes& rest) {
-    Bytes file(18);
+    Bytes file(18 + rest.size());
     file[0] = header.textSize;
     file[1] = header.paletteKind;
     file[2] = header.kind;
@@ -35,7 +36,7 @@ Bytes File(const Header& header, const Bytes& rest) {
     file[15] = static_cast<uint8_t>(header.height >> 8);
     file[16] = header.bits;
     file[17] = header.descriptor;
-    file.insert(file.end(), rest.begin(), rest.end());
+    std::copy(rest.begin(), rest.end(), file.begin() + 18);
     return file;
 }
 

@@ -215,10 +215,10 @@ const WidthLimit kLabelLimits[] = {
      {IDS_ICON_NONE, IDS_ICON_NOTE, IDS_ICON_REMINDER, IDS_ICON_IMPORTANCE, IDS_ICON_RECURRING,
       IDS_ICON_PRIVATE, IDS_ICON_REGENERATED, IDS_ICON_LINK, IDS_ICON_ATTENDEES,
       IDS_ICON_CATEGORY}},
-    {"label on a line of its own", 200, {IDS_GENERAL_SKIN_PATH}},
+    {"label on a line of its own", 200, {IDS_GENERAL_SKIN_PATH, IDS_CATEGORY_ICONS_FOLDER}},
     {"button of a file dialog", 100, {IDS_FOLDER_UP, IDS_CANCEL}},
     {"label in a file dialog", 42, {IDS_FILE_NAME, IDS_FILE_TYPE}},
-    {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY}},
+    {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY, IDS_ICON_PICKER_EMPTY}},
     {"check box",
      198,
      {IDS_CALENDAR_HIDE_EMPTY_DAYS,
@@ -376,6 +376,19 @@ const WidthLimit kLabelLimits[] = {
      40,
      {IDS_PICKER_RED, IDS_PICKER_GREEN, IDS_PICKER_BLUE, IDS_PICKER_HTML}},
     {"label of the picker's sample", 78, {IDS_PICKER_SELECTED}},
+    {"button of half the width",
+     100,
+     {IDS_CATEGORY_ICON, IDS_CATEGORY_COLOUR, IDS_ICON_PICKER_NONE}},
+    {"button of a quarter of a wide page", 74, {IDS_FILTER_TICK_ALL, IDS_FILTER_TICK_NONE}},
+    {"button beside the filters", 66, {IDS_FILTER_RENAME}},
+    {"label of the filters", 36, {IDS_FILTER}},
+    {"label on half a wide page", 62, {IDS_FILTER_SENSITIVITY}},
+    {"choice on half a wide page",
+     78,
+     {IDS_FILTER_SENSITIVITY_ALL, IDS_FILTER_SENSITIVITY_PUBLIC, IDS_FILTER_SENSITIVITY_PRIVATE}},
+    {"check box on half a wide page", 146, {IDS_FILTER_VISIBLE, IDS_FILTER_UNCATEGORIZED}},
+    {"text of the filter-name dialog", 204, {IDS_FILTER_NAME}},
+    {"button of the filter-name dialog", 72, {IDS_FILTER_NAME_OK, IDS_FILTER_NAME_CANCEL}},
     {"colour swatch", 40, {IDS_COLOUR_NONE}},
 };
 
@@ -570,6 +583,20 @@ TEST_F(LanguageLibraries, HoldTheMenuOfTheFontsPage) {
         ASSERT_TRUE(menu) << language.file;
         ExpectDistinctMnemonics(menu.Get(), language.file);
         EXPECT_EQ(Commands(GetSubMenu(menu.Get(), 0)), (std::vector<UINT>{IDC_SAME_SIZE}));
+    }
+}
+
+TEST_F(LanguageLibraries, HoldTheFilterNameDialog) {
+    for (const Language& language : languages_) {
+        HMODULE library = language.library.Get();
+        HRSRC found = FindResourceW(library, MAKEINTRESOURCEW(IDD_FILTER_NAME), RT_DIALOG);
+        ASSERT_TRUE(found) << language.file;
+        const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(library, found));
+        HWND dialog = CreateDialogIndirectW(nullptr, form, nullptr, nullptr);
+        ASSERT_TRUE(dialog) << language.file;
+        for (const int id : {419, 1590, IDOK, IDCANCEL})
+            EXPECT_TRUE(GetDlgItem(dialog, id)) << language.file << " " << id;
+        DestroyWindow(dialog);
     }
 }
 

@@ -111,20 +111,30 @@ render() {
     mv "$picture.$$" "$picture"
 }
 
-# make_icon_set NAME FOLDER SIZE FILES: an icon set of the drawings in a folder, in files of a format.
-# The check boxes and the arrows of bitmap files are on the colours that stand for clear.
+# make_icon_set NAME FOLDER SIZE FORMAT: an icon set of the drawings in a folder. In the bitmaps, which
+# stand for the check boxes and arrows of a set of that format, a colour says what is clear; smooth
+# edges are laid over white, so that none of it shines through them.
 make_icon_set() {
-    local drawing stem to="$root/build/sample-icons/$3/sets/$1"
+    local drawing stem clear to="$root/build/sample-icons/$3/sets/$1"
     for drawing in "$2"/*.svg; do
         stem=$(basename "$drawing" .svg)
         case $4/$stem in
-        bmp/task_*checked) render "$drawing" "$3" "$to/$stem.bmp" -background red -flatten \
-            -type TrueColor ;;
-        bmp/tabs_*) render "$drawing" "$3" "$to/$stem.bmp" -background lime -flatten \
-            -type TrueColor ;;
-        tga/*) render "$drawing" "$3" "$to/$stem.tga" -type TrueColorAlpha -compress RLE ;;
-        *) render "$drawing" "$3" "$to/$stem.png" ;;
+        bmp/task_*checked) clear=red ;;
+        bmp/tabs_*) clear=lime ;;
+        *) clear= ;;
         esac
+        if [ -n "$clear" ]; then
+            render "$drawing" "$3" "$to/$stem.bmp" -write mpr:drawn +delete \
+                -size "$3x$3" "xc:$clear" \
+                '(' mpr:drawn -background white -alpha remove -alpha off ')' \
+                '(' mpr:drawn -alpha extract -threshold 8% ')' -composite -type TrueColor
+        elif [ "$4" = tga ]; then
+            # Without an orientation the converter writes the upper row first and says the lower.
+            render "$drawing" "$3" "$to/$stem.tga" -orient TopLeft -type TrueColorAlpha \
+                -compress RLE
+        else
+            render "$drawing" "$3" "$to/$stem.png"
+        fi
     done
 }
 
