@@ -449,6 +449,30 @@
 #define IDS_SCHEME_NOT_LOADED 877
 #define IDS_SCHEME_NOT_LOADED_CAPTION 878
 
+// Texts: the Category page.
+#define IDS_CATEGORY_ICONS_FOLDER 858
+#define IDS_FILTER 923
+#define IDS_FILTER_UNCATEGORIZED 924
+#define IDS_FILTER_VISIBLE 925
+#define IDS_FILTER_RENAME 926
+#define IDS_FILTER_TICK_ALL 927
+#define IDS_FILTER_TICK_NONE 928
+#define IDS_FILTER_NAME 1113
+#define IDS_FILTER_NAME_CANCEL 1114
+#define IDS_FILTER_NAME_OK 1115
+#define IDS_FILTER_SENSITIVITY 1238
+#define IDS_FILTER_SENSITIVITY_ALL 1239
+#define IDS_FILTER_SENSITIVITY_PUBLIC 1240
+#define IDS_FILTER_SENSITIVITY_PRIVATE 1241
+#define IDS_CATEGORY_ICON 1429
+#define IDS_CATEGORY_COLOUR 1430
+#define IDS_ICON_PICKER_TITLE 2140
+#define IDS_ICON_PICKER_CURRENT 2141
+#define IDS_ICON_PICKER_NONE 2142
+#define IDS_ICON_PICKER_EMPTY 2143
+#define IDS_CATEGORY_NO_FILE 2144
+#define IDS_CATEGORY_NO_FILE_CAPTION 2145
+
 // Texts: captions of the dashboard's own tabs.
 #define IDS_DASHBOARD_TAB_TASKS 1416
 #define IDS_DASHBOARD_TAB_NOTES 1417
@@ -623,6 +647,9 @@
 // Menus of the language libraries.
 #define IDM_MAIN 153
 #define IDM_FONTS 2100 // Of the Fonts page.
+
+// Dialogs of the language libraries.
+#define IDD_FILTER_NAME 1577 // A label 419, an edit field 1590, IDOK and IDCANCEL.
 
 // Commands of the main window; 1 and 2 are the platform's IDOK and IDCANCEL.
 #define IDC_ABOUT 523

@@ -3,6 +3,7 @@
 #include <new>
 
 #include "pages/calendar_page.h"
+#include "pages/category_page.h"
 #include "pages/colours_page.h"
 #include "pages/fonts_page.h"
 #include "pages/general_page.h"
@@ -45,8 +46,7 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
     {IDS_PAGE_TABS, L"TabsSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},
-    {IDS_PAGE_CATEGORY, L"CategorySettingsWin",
-     MakeOutline<IDS_TAB_CATEGORY_CATEGORIES, IDS_TAB_CATEGORY_FILTERS, IDS_TAB_MISCELLANEOUS>},
+    {IDS_PAGE_CATEGORY, L"CategorySettingsWin", MakePage<CategoryPage>},
 };
 } // namespace
 

@@ -20,6 +20,11 @@ void AddRow(HWND list, const wchar_t* text, uint32_t data = 0);
 [[nodiscard]] int RowCount(HWND list);
 [[nodiscard]] uint32_t RowData(HWND list, int row);
 
+// Gives every row a box to tick, in the middle of its height.
+void AddTickBoxes(HWND list);
+[[nodiscard]] bool IsRowTicked(HWND list, int row);
+void TickRow(HWND list, int row, bool ticked);
+
 // −1 for none.
 [[nodiscard]] int SelectedRow(HWND list);
 [[nodiscard]] int FocusedRow(HWND list);

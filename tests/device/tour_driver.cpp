@@ -35,6 +35,7 @@ constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
 constexpr int kFonts = 7;
 constexpr int kColours = 8;
+constexpr int kCategory = 11;
 constexpr UINT kSkinBrowse = 1214;
 constexpr int kEditButton = 1210; // Of the Fonts page.
 constexpr int kFontItems = 1211;
@@ -58,12 +59,16 @@ void Close(HWND window, int answer) {
     WaitUntil([window] { return !IsWindow(window); });
 }
 
-void ShowDialogs(const Program& program, HWND page) {
-    TapOn(GetDlgItem(page, kSkinBrowse));
-    if (HWND dialog = program.WaitForWindow(L"SelectFolderWin")) {
-        Show("dialog-folder");
+void ShowDialogOf(const Program& program, HWND button, const wchar_t* className, const char* name) {
+    TapOn(button);
+    if (HWND dialog = program.WaitForWindow(className)) {
+        Show(name);
         Close(dialog, IDCANCEL);
     }
+}
+
+void ShowDialogs(const Program& program, HWND page) {
+    ShowDialogOf(program, GetDlgItem(page, kSkinBrowse), L"SelectFolderWin", "dialog-folder");
 }
 
 // The menu of the first chooser and the tooltip of a button, both reached by keys.
@@ -169,6 +174,28 @@ void ShowColourItem(const Program& program, HWND page) {
     }
 }
 
+// Taps the second category, so that it can be given an icon and a colour.
+void ShowCategoryDialogs(const Program& program, HWND page) {
+    HWND list = GetDlgItem(page, 1200);
+    RECT place{};
+    GetWindowRect(list, &place);
+    HWND iconButton = GetDlgItem(page, 1201);
+    TapAt(place.left + (place.right - place.left) / 3, place.top + (place.bottom - place.top) / 4);
+    WaitUntil([iconButton] { return IsWindowEnabled(iconButton) != FALSE; });
+    Show("category-selected");
+    ShowDialogOf(program, iconButton, L"ImagePickerWin", "dialog-icon");
+    ShowDialogOf(program, GetDlgItem(page, 1202), L"ColourPickerWin", "dialog-colour");
+}
+
+void ShowFilterDialogs(const Program& program, HWND page) {
+    HWND filters = GetDlgItem(page, 1204);
+    TapOn(filters);
+    Show("category-filters");
+    Press(VK_ESCAPE);
+    WaitUntil([filters] { return !SendMessage(filters, CB_GETDROPPEDSTATE, 0, 0); });
+    ShowDialogOf(program, GetDlgItem(page, 1205), L"#32770", "dialog-filter-name");
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -185,6 +212,8 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kFonts && tab == 1) ShowFontItem(program, page);
         if (row == kColours && tab == 0) ShowColourItem(program, page);
         if (row == kTasks && tab == 2) ShowIconChooser(page);
+        if (row == kCategory && tab == 0) ShowCategoryDialogs(program, page);
+        if (row == kCategory && tab == 1) ShowFilterDialogs(program, page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
     return WaitUntil([page] { return !IsWindow(page); });

@@ -190,38 +190,21 @@ struct WidthLimit {
 };
 
 const WidthLimit kLabelLimits[] = {
-    {"label of a combo row",
-     98,
-     {IDS_GENERAL_ON_CLICK,
-      IDS_GENERAL_ON_DOUBLE_CLICK,
-      IDS_GENERAL_HEIGHT,
-      IDS_GENERAL_HEIGHT_LANDSCAPE,
-      IDS_GENERAL_LANGUAGE,
-      IDS_GENERAL_FILTER_ALIGN,
-      IDS_GENERAL_DPAD_MODE,
-      IDS_GENERAL_DPAD_COMPLETE,
-      IDS_GENERAL_DPAD_SCROLLING,
-      IDS_GENERAL_LOADING_DELAY,
-      IDS_TASKS_DATE_FORMAT,
-      IDS_TASKS_FUTURE_LIMIT,
-      IDS_TITLES_BREAK_LINE,
-      IDS_TITLES_FOLD_START,
-      IDS_TASKS_CUSTOM_DATE_SHOW,
-      IDS_FONTS_SIZE,
-      IDS_FONTS_TITLE_SIZE,
-      IDS_FONTS_FACE,
-      IDS_FONTS_SHADOW,
-      IDS_FONT_STYLE_SIZE,
-      IDS_FONT_STYLE_COLOUR,
-      IDS_FONTS_COLOUR,
-      IDS_CALENDAR_DAYS,
-      IDS_CALENDAR_WEEKS,
-      IDS_CALENDAR_TEXT_COLOUR,
-      IDS_CALENDAR_PASSED,
-      IDS_CALENDAR_BARS,
-      IDS_CALENDAR_CONFLICTS,
-      IDS_CALENDAR_WEATHER_LAYOUT,
-      IDS_CALENDAR_WEATHER_TAP}},
+    {"label of a combo row", 98, {IDS_GENERAL_ON_CLICK,       IDS_GENERAL_ON_DOUBLE_CLICK,
+                                  IDS_GENERAL_HEIGHT,         IDS_GENERAL_HEIGHT_LANDSCAPE,
+                                  IDS_GENERAL_LANGUAGE,       IDS_GENERAL_FILTER_ALIGN,
+                                  IDS_GENERAL_DPAD_MODE,      IDS_GENERAL_DPAD_COMPLETE,
+                                  IDS_GENERAL_DPAD_SCROLLING, IDS_GENERAL_LOADING_DELAY,
+                                  IDS_TASKS_DATE_FORMAT,      IDS_TASKS_FUTURE_LIMIT,
+                                  IDS_TITLES_BREAK_LINE,      IDS_TITLES_FOLD_START,
+                                  IDS_TASKS_CUSTOM_DATE_SHOW, IDS_CALENDAR_DAYS,
+                                  IDS_CALENDAR_WEEKS,         IDS_CALENDAR_TEXT_COLOUR,
+                                  IDS_CALENDAR_PASSED,        IDS_CALENDAR_BARS,
+                                  IDS_CALENDAR_CONFLICTS,     IDS_CALENDAR_WEATHER_LAYOUT,
+                                  IDS_CALENDAR_WEATHER_TAP,   IDS_FONTS_SIZE,
+                                  IDS_FONTS_TITLE_SIZE,       IDS_FONTS_FACE,
+                                  IDS_FONTS_SHADOW,           IDS_FONT_STYLE_SIZE,
+                                  IDS_FONT_STYLE_COLOUR,      IDS_FONTS_COLOUR}},
     {"label above a text", 98, {IDS_TASKS_CUSTOM_DATE_START, IDS_TASKS_CUSTOM_DATE_DUE}},
     {"label of an icon chooser",
      62,
@@ -232,10 +215,10 @@ const WidthLimit kLabelLimits[] = {
      {IDS_ICON_NONE, IDS_ICON_NOTE, IDS_ICON_REMINDER, IDS_ICON_IMPORTANCE, IDS_ICON_RECURRING,
       IDS_ICON_PRIVATE, IDS_ICON_REGENERATED, IDS_ICON_LINK, IDS_ICON_ATTENDEES,
       IDS_ICON_CATEGORY}},
-    {"label on a line of its own", 200, {IDS_GENERAL_SKIN_PATH}},
+    {"label on a line of its own", 200, {IDS_GENERAL_SKIN_PATH, IDS_CATEGORY_ICONS_FOLDER}},
     {"button of a file dialog", 100, {IDS_FOLDER_UP, IDS_CANCEL}},
     {"label in a file dialog", 42, {IDS_FILE_NAME, IDS_FILE_TYPE}},
-    {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY}},
+    {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY, IDS_ICON_PICKER_EMPTY}},
     {"check box",
      198,
      {IDS_CALENDAR_HIDE_EMPTY_DAYS,
@@ -393,6 +376,19 @@ const WidthLimit kLabelLimits[] = {
      40,
      {IDS_PICKER_RED, IDS_PICKER_GREEN, IDS_PICKER_BLUE, IDS_PICKER_HTML}},
     {"label of the picker's sample", 78, {IDS_PICKER_SELECTED}},
+    {"button of half the width",
+     100,
+     {IDS_CATEGORY_ICON, IDS_CATEGORY_COLOUR, IDS_ICON_PICKER_NONE}},
+    {"button of a quarter of a wide page", 74, {IDS_FILTER_TICK_ALL, IDS_FILTER_TICK_NONE}},
+    {"button beside the filters", 66, {IDS_FILTER_RENAME}},
+    {"label of the filters", 36, {IDS_FILTER}},
+    {"label on half a wide page", 62, {IDS_FILTER_SENSITIVITY}},
+    {"choice on half a wide page",
+     78,
+     {IDS_FILTER_SENSITIVITY_ALL, IDS_FILTER_SENSITIVITY_PUBLIC, IDS_FILTER_SENSITIVITY_PRIVATE}},
+    {"check box on half a wide page", 146, {IDS_FILTER_VISIBLE, IDS_FILTER_UNCATEGORIZED}},
+    {"text of the filter-name dialog", 204, {IDS_FILTER_NAME}},
+    {"button of the filter-name dialog", 72, {IDS_FILTER_NAME_OK, IDS_FILTER_NAME_CANCEL}},
     {"colour swatch", 40, {IDS_COLOUR_NONE}},
 };
 
@@ -447,6 +443,31 @@ TEST_F(LanguageLibraries, FitTheirPlaces) {
     }
 }
 
+// The texts of an option are known by their names: X its row, X_LABEL its box or the label of its
+// drop-down list, X_TIP what explains it.
+TEST_F(LanguageLibraries, FitOptionsAndTheirPanel) {
+    const TextMeasure normal(FW_DONTCARE);
+    std::map<std::string, UINT> ids;
+    for (const TextName& text : kTexts)
+        ids[text.name] = text.id;
+    int options = 0;
+    for (const Language& language : languages_) {
+        const auto width = [&](UINT id) { return normal.Width(Text(language.library.Get(), id)); };
+        for (const auto& [name, id] : ids) {
+            if (!ids.contains(name + "_TIP")) continue;
+            ++options;
+            EXPECT_LE(width(id), 190) << language.file << ", row " << name;
+            const std::wstring tip = Text(language.library.Get(), ids[name + "_TIP"]);
+            EXPECT_LE(WrappedLines(tip, normal, 216).size(), 3U) << language.file << " " << name;
+            if (!ids.contains(name + "_LABEL")) continue;
+            const std::wstring label = Text(language.library.Get(), ids[name + "_LABEL"]);
+            EXPECT_LE(normal.Width(label), label.back() == L':' ? 103 : 198)
+                << language.file << ", label " << name;
+        }
+    }
+    EXPECT_GE(options, 2 * 52);
+}
+
 // What is above a sample, and the rows of the list below it, whose scroll bar takes 16 pixels.
 TEST_F(LanguageLibraries, DescribeFontsAndColoursInTheirPlaces) {
     constexpr int kLine = 220;
@@ -475,31 +496,6 @@ TEST_F(LanguageLibraries, DescribeFontsAndColoursInTheirPlaces) {
              ++id)
             EXPECT_LE(lines(id), 3U) << language.file << " " << id;
     }
-}
-
-// The texts of an option are known by their names: X its row, X_LABEL its box or the label of its
-// drop-down list, X_TIP what explains it.
-TEST_F(LanguageLibraries, FitOptionsAndTheirPanel) {
-    const TextMeasure normal(FW_DONTCARE);
-    std::map<std::string, UINT> ids;
-    for (const TextName& text : kTexts)
-        ids[text.name] = text.id;
-    int options = 0;
-    for (const Language& language : languages_) {
-        const auto width = [&](UINT id) { return normal.Width(Text(language.library.Get(), id)); };
-        for (const auto& [name, id] : ids) {
-            if (!ids.contains(name + "_TIP")) continue;
-            ++options;
-            EXPECT_LE(width(id), 190) << language.file << ", row " << name;
-            const std::wstring tip = Text(language.library.Get(), ids[name + "_TIP"]);
-            EXPECT_LE(WrappedLines(tip, normal, 216).size(), 3U) << language.file << " " << name;
-            if (!ids.contains(name + "_LABEL")) continue;
-            const std::wstring label = Text(language.library.Get(), ids[name + "_LABEL"]);
-            EXPECT_LE(normal.Width(label), label.back() == L':' ? 103 : 198)
-                << language.file << ", label " << name;
-        }
-    }
-    EXPECT_GE(options, 2 * 52);
 }
 
 TEST_F(LanguageLibraries, NamePagesInAtMostTwoLines) {
@@ -587,6 +583,20 @@ TEST_F(LanguageLibraries, HoldTheMenuOfTheFontsPage) {
         ASSERT_TRUE(menu) << language.file;
         ExpectDistinctMnemonics(menu.Get(), language.file);
         EXPECT_EQ(Commands(GetSubMenu(menu.Get(), 0)), (std::vector<UINT>{IDC_SAME_SIZE}));
+    }
+}
+
+TEST_F(LanguageLibraries, HoldTheFilterNameDialog) {
+    for (const Language& language : languages_) {
+        HMODULE library = language.library.Get();
+        HRSRC found = FindResourceW(library, MAKEINTRESOURCEW(IDD_FILTER_NAME), RT_DIALOG);
+        ASSERT_TRUE(found) << language.file;
+        const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(library, found));
+        HWND dialog = CreateDialogIndirectW(nullptr, form, nullptr, nullptr);
+        ASSERT_TRUE(dialog) << language.file;
+        for (const int id : {419, 1590, IDOK, IDCANCEL})
+            EXPECT_TRUE(GetDlgItem(dialog, id)) << language.file << " " << id;
+        DestroyWindow(dialog);
     }
 }
 
