@@ -22,9 +22,8 @@ bool HasRow(HWND window, const FormRow& row) {
 }
 
 void FillChoices(HWND combo, std::span<const UINT> choices) {
-    for (const UINT text : choices) {
-        SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(LanguageText(text).CStr()));
-    }
+    for (const UINT text : choices)
+        AddEntry(combo, LanguageText(text).CStr());
 }
 } // namespace
 

@@ -83,10 +83,6 @@ bool IsScreenWide() {
     return width >= kVgaWidth;
 }
 
-void AddEntry(HWND combo, const wchar_t* text) {
-    SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-}
-
 void AddNumber(HWND combo, int number) {
     WideString text;
     text.Format(L"%d", number);

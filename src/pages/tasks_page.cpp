@@ -108,10 +108,8 @@ void FillDateSamples(HWND combo) {
     SYSTEMTIME today;
     GetLocalTime(&today);
     const SYSTEMTIME due = DaysAfter(today, kWeek);
-    for (const DatePictures& pictures : kDatePictures) {
-        SendMessage(combo, CB_ADDSTRING, 0,
-                    reinterpret_cast<LPARAM>(DateSample(pictures, today, due).CStr()));
-    }
+    for (const DatePictures& pictures : kDatePictures)
+        AddEntry(combo, DateSample(pictures, today, due).CStr());
 }
 
 constexpr FormRow kRows[] = {

@@ -7,6 +7,7 @@
 
 #include <cwchar>
 #include <memory>
+#include <utility>
 
 #include "files/category_store.h"
 #include "resource_ids.h"
@@ -89,9 +90,11 @@ LRESULT OnCreate(HWND window) {
 }
 
 void CloseCurrentPage(HWND window) {
-    if (!mainWindow.currentPage) return;
-    ClosePage(*mainWindow.currentPage);
-    mainWindow.currentPage.reset();
+    // A page may tell the user something while it closes. In that loop it is no longer the current
+    // one, so that nothing closes or deletes it a second time.
+    const std::unique_ptr<SettingsPage> page = std::move(mainWindow.currentPage);
+    if (!page) return;
+    ClosePage(*page);
     SetWindowText(window, kProgramTitle);
 }
 

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
 #include "pages/tasks_page.h"
@@ -15,12 +16,9 @@ struct PageEntry {
     SettingsPage* (*make)();
 };
 
-SettingsPage* MakeGeneral() {
-    return new (std::nothrow) GeneralPage;
-}
-
-SettingsPage* MakeTasks() {
-    return new (std::nothrow) TasksPage;
+template <typename Page>
+SettingsPage* MakePage() {
+    return new (std::nothrow) Page;
 }
 
 template <UINT... titles>
@@ -30,12 +28,9 @@ SettingsPage* MakeOutline() {
 }
 
 constexpr PageEntry kPages[kPageCount] = {
-    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakeGeneral},
-    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_CALENDAR_APPOINTMENTS, IDS_TAB_CALENDAR_TASKS,
-                 IDS_TAB_CALENDAR_DAY_TITLES, IDS_TAB_CALENDAR_ICONS, IDS_TAB_CALENDAR_MONTH,
-                 IDS_TAB_CALENDAR_MAIL, IDS_TAB_CALENDAR_WEATHER, IDS_TAB_MISCELLANEOUS>},
-    {IDS_PAGE_TASKS, L"TasksSettingsWin", MakeTasks},
+    {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakePage<GeneralPage>},
+    {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
+    {IDS_PAGE_TASKS, L"TasksSettingsWin", MakePage<TasksPage>},
     {IDS_PAGE_NOTES, L"NotesSettingsWin",
      MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES, IDS_TAB_NOTES_FILES, IDS_TAB_NOTES_FOLDERS>},
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin",

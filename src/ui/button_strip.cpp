@@ -128,7 +128,7 @@ void ButtonStrip::OnPointerUp(int button) {
 void ButtonStrip::OnFocus(bool isGained) {
     if (isGained && !IsOffered(current_)) {
         current_ = -1;
-        Step(true);
+        ButtonStrip::Step(true);
     }
     if (isGained)
         RestOn(current_);
@@ -179,6 +179,9 @@ LRESULT ButtonStrip::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
         OnFocus(message == WM_SETFOCUS);
+        return 0;
+    case WM_SHOWWINDOW:
+        if (!wParam) EndRest();
         return 0;
     case WM_TIMER:
         OnTimer();

@@ -41,6 +41,8 @@ class ButtonStrip {
     virtual void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) = 0;
     // The strip, and with it this object, may be gone when it returns.
     virtual void Press(int button) = 0;
+    // Left or Right was pressed: goes to the next button; false when there is none.
+    virtual bool Step(bool forward);
     // An entry of a menu that the strip owns is to be measured or drawn.
     virtual void MeasureEntry(MEASUREITEMSTRUCT& entry) const;
     virtual void DrawEntry(const DRAWITEMSTRUCT& entry);
@@ -59,7 +61,6 @@ class ButtonStrip {
     void OnFocus(bool isGained);
     void OnTimer();
     void OnDestroy();
-    bool Step(bool forward);
     void PressCurrent();
     void RestOn(int button);
     void EndRest();

@@ -14,6 +14,10 @@ HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, D
     return control;
 }
 
+void PlaceControl(HWND control, const ControlPlace& place) {
+    if (control) MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
+}
+
 WideString ControlText(HWND control, int limit) {
     std::vector<wchar_t> buffer(static_cast<size_t>(limit) + 1);
     GetWindowText(control, buffer.data(), limit + 1);
@@ -36,6 +40,27 @@ void SelectIndex(HWND combo, uint32_t index) {
     // A combo box keeps its old selection when it is given an index that it does not have.
     const auto count = static_cast<uint32_t>(SendMessage(combo, CB_GETCOUNT, 0, 0));
     SendMessage(combo, CB_SETCURSEL, index < count ? index : static_cast<WPARAM>(-1), 0);
+}
+
+void AddEntry(HWND combo, const wchar_t* text, uint32_t data) {
+    const LRESULT entry = SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    if (data) SendMessage(combo, CB_SETITEMDATA, static_cast<WPARAM>(entry), data);
+}
+
+uint32_t SelectedData(HWND combo) {
+    const LRESULT entry = SendMessage(combo, CB_GETCURSEL, 0, 0);
+    return static_cast<uint32_t>(SendMessage(combo, CB_GETITEMDATA, static_cast<WPARAM>(entry), 0));
+}
+
+bool SelectData(HWND combo, uint32_t data) {
+    const LRESULT count = SendMessage(combo, CB_GETCOUNT, 0, 0);
+    for (LRESULT entry = 0; entry < count; ++entry) {
+        const LRESULT found = SendMessage(combo, CB_GETITEMDATA, static_cast<WPARAM>(entry), 0);
+        if (static_cast<uint32_t>(found) != data) continue;
+        SendMessage(combo, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+        return true;
+    }
+    return false;
 }
 
 void EnableControlRange(HWND parent, UINT firstId, UINT lastId, bool enabled) {

@@ -20,6 +20,9 @@ struct ControlPlace {
 HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
                    const ControlPlace& place, HFONT font);
 
+// Moves a control; null is passed over.
+void PlaceControl(HWND control, const ControlPlace& place);
+
 // A control's whole text.
 [[nodiscard]] WideString ControlText(HWND control);
 
@@ -33,6 +36,15 @@ HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, D
 
 // Selects an entry; an index out of range selects none.
 void SelectIndex(HWND combo, uint32_t index);
+
+// Adds an entry at the end of a combo box, with a number as its data.
+void AddEntry(HWND combo, const wchar_t* text, uint32_t data = 0);
+
+// The data of the selected entry, 0xFFFFFFFF where none is selected.
+[[nodiscard]] uint32_t SelectedData(HWND combo);
+// Selects the first entry with this data; where there is none, the selection stays and the answer
+// is false.
+bool SelectData(HWND combo, uint32_t data);
 
 // Each of the following acts on every control that exists with an id in [firstId, lastId].
 void EnableControlRange(HWND parent, UINT firstId, UINT lastId, bool enabled);

@@ -31,6 +31,7 @@ constexpr PageSight kPages[kPageCount] = {
     {"category", L"CategorySettingsWin"},
 };
 constexpr int kGeneral = 0;
+constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
 constexpr UINT kSkinBrowse = 1214;
 
@@ -73,6 +74,41 @@ void ShowIconChooser(HWND page) {
     Show("tooltip-icon");
 }
 
+// The ways in which the Calendar page shows an option, by the tab and row of one that is so shown.
+struct OptionSight {
+    int tab;
+    int row;
+    const char* name;
+};
+constexpr OptionSight kOptions[] = {
+    {2, 0, "option-box"},  {3, 0, "option-choice"}, {5, 9, "option-format"},
+    {6, 4, "option-path"}, {8, 5, "option-text"},   {8, 6, "option-order"},
+};
+
+// The list is reached and its rows are selected by keys.
+void ShowOptions(int tab) {
+    int row = -1;
+    for (const OptionSight& option : kOptions) {
+        if (option.tab != tab) continue;
+        if (row < 0) {
+            Press(VK_TAB);
+            Press(VK_RETURN);
+            row = 0;
+        }
+        for (; row < option.row; ++row)
+            Press(VK_DOWN);
+        Show(option.name);
+    }
+}
+
+// The panel's drop-down list, which stands above the first row.
+void ShowOpenChoice() {
+    Press(VK_UP);
+    Press(VK_RETURN);
+    Show("option-choice-open");
+    Press(VK_ESCAPE);
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -84,6 +120,8 @@ bool ShowPage(const Program& program, HWND main, int row) {
         std::snprintf(name, sizeof(name), "page-%02d-%s-%d", row, kPages[row].name, tab + 1);
         Show(name);
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
+        if (row == kCalendar) ShowOptions(tab);
+        if (row == kCalendar && tab == 3) ShowOpenChoice();
         if (row == kTasks && tab == 2) ShowIconChooser(page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);

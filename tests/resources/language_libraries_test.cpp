@@ -190,13 +190,18 @@ struct WidthLimit {
 };
 
 const WidthLimit kLabelLimits[] = {
-    {"label of a combo row",
-     98,
-     {IDS_GENERAL_ON_CLICK, IDS_GENERAL_ON_DOUBLE_CLICK, IDS_GENERAL_HEIGHT,
-      IDS_GENERAL_HEIGHT_LANDSCAPE, IDS_GENERAL_LANGUAGE, IDS_GENERAL_FILTER_ALIGN,
-      IDS_GENERAL_DPAD_MODE, IDS_GENERAL_DPAD_COMPLETE, IDS_GENERAL_DPAD_SCROLLING,
-      IDS_GENERAL_LOADING_DELAY, IDS_TASKS_DATE_FORMAT, IDS_TASKS_FUTURE_LIMIT,
-      IDS_TITLES_BREAK_LINE, IDS_TITLES_FOLD_START, IDS_TASKS_CUSTOM_DATE_SHOW}},
+    {"label of a combo row", 98, {IDS_GENERAL_ON_CLICK,       IDS_GENERAL_ON_DOUBLE_CLICK,
+                                  IDS_GENERAL_HEIGHT,         IDS_GENERAL_HEIGHT_LANDSCAPE,
+                                  IDS_GENERAL_LANGUAGE,       IDS_GENERAL_FILTER_ALIGN,
+                                  IDS_GENERAL_DPAD_MODE,      IDS_GENERAL_DPAD_COMPLETE,
+                                  IDS_GENERAL_DPAD_SCROLLING, IDS_GENERAL_LOADING_DELAY,
+                                  IDS_TASKS_DATE_FORMAT,      IDS_TASKS_FUTURE_LIMIT,
+                                  IDS_TITLES_BREAK_LINE,      IDS_TITLES_FOLD_START,
+                                  IDS_TASKS_CUSTOM_DATE_SHOW, IDS_CALENDAR_DAYS,
+                                  IDS_CALENDAR_WEEKS,         IDS_CALENDAR_TEXT_COLOUR,
+                                  IDS_CALENDAR_PASSED,        IDS_CALENDAR_BARS,
+                                  IDS_CALENDAR_CONFLICTS,     IDS_CALENDAR_WEATHER_LAYOUT,
+                                  IDS_CALENDAR_WEATHER_TAP}},
     {"label above a text", 98, {IDS_TASKS_CUSTOM_DATE_START, IDS_TASKS_CUSTOM_DATE_DUE}},
     {"label of an icon chooser",
      62,
@@ -213,7 +218,13 @@ const WidthLimit kLabelLimits[] = {
     {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY}},
     {"check box",
      198,
-     {IDS_GENERAL_AUTO_HEIGHT,
+     {IDS_CALENDAR_HIDE_EMPTY_DAYS,
+      IDS_CALENDAR_HIDE_EMPTY_LINE,
+      IDS_CALENDAR_SPECIAL_EVENTS,
+      IDS_CALENDAR_SORT_TASKS,
+      IDS_CALENDAR_COUNT_YEARS,
+      IDS_CALENDAR_HIDE_ALL_DAY_ICON,
+      IDS_GENERAL_AUTO_HEIGHT,
       IDS_GENERAL_SOUND,
       IDS_GENERAL_GOOFY_MODE,
       IDS_GENERAL_INDENT_ITEMS,
@@ -280,6 +291,68 @@ const WidthLimit kLabelLimits[] = {
       IDS_DASHBOARD_TAB_MAIL,
       IDS_DASHBOARD_TAB_SPECIAL_EVENTS,
       IDS_DASHBOARD_TAB_CALENDAR}},
+    {"choice of an option",
+     97,
+     {IDS_CALENDAR_WEEKS_DEVICE,
+      IDS_CALENDAR_WEEKS_JANUARY,
+      IDS_CALENDAR_WEEKS_FOUR_DAYS,
+      IDS_CALENDAR_WEEKS_FULL,
+      IDS_CALENDAR_TEXT_COLOUR_FONT,
+      IDS_CALENDAR_TEXT_COLOUR_APPOINTMENTS,
+      IDS_CALENDAR_TEXT_COLOUR_ALL,
+      IDS_CALENDAR_PASSED_SHOW,
+      IDS_CALENDAR_PASSED_HIDE,
+      IDS_CALENDAR_BARS_NONE,
+      IDS_CALENDAR_BARS_STATUS,
+      IDS_CALENDAR_BARS_CATEGORY,
+      IDS_CALENDAR_CONFLICTS_NONE,
+      IDS_CALENDAR_CONFLICTS_TIME,
+      IDS_CALENDAR_CONFLICTS_ITEM,
+      IDS_CALENDAR_WEATHER_LAYOUT_ONE_LINE,
+      IDS_CALENDAR_WEATHER_LAYOUT_TWO_LINES,
+      IDS_CALENDAR_WEATHER_LAYOUT_LARGE_ICONS,
+      IDS_CALENDAR_WEATHER_LAYOUT_ICONS_ONLY,
+      IDS_CALENDAR_WEATHER_TAP_NOTHING,
+      IDS_CALENDAR_WEATHER_TAP_OPEN,
+      IDS_CALENDAR_TASKS_COMPLETED_NONE,
+      IDS_CALENDAR_TASKS_COMPLETED_TODAY,
+      IDS_CALENDAR_TASKS_COMPLETED_FROM_TODAY,
+      IDS_CALENDAR_TASKS_COMPLETED_ALL,
+      IDS_CALENDAR_TASKS_SORT_DUE,
+      IDS_CALENDAR_TASKS_SORT_START,
+      IDS_CALENDAR_TASKS_SORT_IMPORTANCE,
+      IDS_CALENDAR_TASKS_SORT_SUBJECT,
+      IDS_CALENDAR_TASKS_SORT_CATEGORY,
+      IDS_CALENDAR_TASKS_SORT_COMPLETION,
+      IDS_CALENDAR_TASKS_SORT_DEVICE,
+      IDS_CALENDAR_TASKS_SKIP_NONE,
+      IDS_CALENDAR_TASKS_SKIP_SATURDAY,
+      IDS_CALENDAR_TASKS_SKIP_SUNDAY,
+      IDS_CALENDAR_TASKS_SKIP_BOTH,
+      IDS_CALENDAR_DAYS_TIME_LINES_NONE,
+      IDS_CALENDAR_DAYS_TIME_LINES_TODAY,
+      IDS_CALENDAR_DAYS_TIME_LINES_ALL,
+      IDS_CALENDAR_MONTH_TAP_GO,
+      IDS_CALENDAR_MONTH_TAP_OPEN,
+      IDS_CALENDAR_MONTH_TAP_NEW,
+      IDS_CALENDAR_MONTH_TAP_NOTHING,
+      IDS_CALENDAR_MONTH_TIME_LINES_NONE,
+      IDS_CALENDAR_MONTH_TIME_LINES_PLAIN,
+      IDS_CALENDAR_MONTH_TIME_LINES_COLOURS,
+      IDS_CALENDAR_MONTH_DPAD_NONE,
+      IDS_CALENDAR_MONTH_DPAD_WEEKS,
+      IDS_CALENDAR_MONTH_DPAD_DAYS,
+      IDS_CALENDAR_MAIL_FORMAT_NEW,
+      IDS_CALENDAR_MAIL_FORMAT_NEW_ALL,
+      IDS_CALENDAR_MAIL_FORMAT_ACCOUNTS,
+      IDS_CALENDAR_MAIL_FORMAT_KINDS,
+      IDS_CALENDAR_MAIL_PROGRAM_DEVICE,
+      IDS_CALENDAR_MAIL_PROGRAM_OWN}},
+    {"title in the order of titles",
+     130,
+     {IDS_CALENDAR_TITLE_OVERDUE, IDS_CALENDAR_TITLE_UNDATED, IDS_CALENDAR_TITLE_MAIL,
+      IDS_CALENDAR_TITLE_SPECIAL_EVENTS, IDS_CALENDAR_TITLE_WEATHER, IDS_CALENDAR_TITLE_DAYS}},
+    {"button beside a list", 50, {IDS_MOVE_UP, IDS_MOVE_DOWN}},
     {"button beside a path", 36, {IDS_CLEAR, IDS_BROWSE}},
     {"colour swatch", 40, {IDS_COLOUR_NONE}},
 };
@@ -332,6 +405,31 @@ TEST_F(LanguageLibraries, FitTheirPlaces) {
             EXPECT_LE(sum, page.pixels) << language.file << ", tabs of " << page.place;
         }
     }
+}
+
+// The texts of an option are known by their names: X its row, X_LABEL its box or the label of its
+// drop-down list, X_TIP what explains it.
+TEST_F(LanguageLibraries, FitOptionsAndTheirPanel) {
+    const TextMeasure normal(FW_DONTCARE);
+    std::map<std::string, UINT> ids;
+    for (const TextName& text : kTexts)
+        ids[text.name] = text.id;
+    int options = 0;
+    for (const Language& language : languages_) {
+        const auto width = [&](UINT id) { return normal.Width(Text(language.library.Get(), id)); };
+        for (const auto& [name, id] : ids) {
+            if (!ids.contains(name + "_TIP")) continue;
+            ++options;
+            EXPECT_LE(width(id), 190) << language.file << ", row " << name;
+            const std::wstring tip = Text(language.library.Get(), ids[name + "_TIP"]);
+            EXPECT_LE(WrappedLines(tip, normal, 216).size(), 3U) << language.file << " " << name;
+            if (!ids.contains(name + "_LABEL")) continue;
+            const std::wstring label = Text(language.library.Get(), ids[name + "_LABEL"]);
+            EXPECT_LE(normal.Width(label), label.back() == L':' ? 103 : 198)
+                << language.file << ", label " << name;
+        }
+    }
+    EXPECT_GE(options, 2 * 52);
 }
 
 TEST_F(LanguageLibraries, NamePagesInAtMostTwoLines) {

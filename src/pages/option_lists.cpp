@@ -1,0 +1,171 @@
+#include "pages/option_lists.h"
+
+#include <algorithm>
+
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "ui/controls.h"
+#include "ui/list_items.h"
+
+namespace {
+constexpr int kTop = 8;
+constexpr int kMargin = 10;
+constexpr int kBelowTop = 96; // What the panel and the tab strip take from the page's height.
+constexpr int kRowHeight = 21;
+
+WideString TipOf(const Option& option) {
+    WideString tip = LanguageText(option.texts.tip);
+    if (!option.tipNumber) return tip;
+    WideString formatted;
+    formatted.Format(tip.CStr(), option.tipNumber());
+    return formatted;
+}
+
+void FillList(HWND list, std::span<const Option> options) {
+    for (const Option& option : options)
+        AddRow(list, LanguageText(option.texts.item).CStr());
+}
+} // namespace
+
+void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> lists,
+                         UINT firstPanelId) {
+    lists_ = lists;
+    shown_ = nullptr;
+    // The panel stands above the lists, and so do its keys.
+    panel_.Create(page, font, firstPanelId, kTop);
+    for (const OptionList& list : lists) {
+        HWND control = CreateList(page, list.listId, font, kRowHeight);
+        ShowWindow(control, SW_HIDE);
+        FillList(control, list.options);
+    }
+}
+
+void OptionLists::Place(HWND page) const {
+    RECT client{};
+    GetClientRect(page, &client);
+    const int left = Scale(kMargin);
+    const int top = ScaleY(kTop);
+    // Little is left of a low screen while the input panel covers its half.
+    const int height = std::max(0L, client.bottom - ScaleY(kBelowTop) - top);
+    for (const OptionList& list : lists_) {
+        HWND control = GetDlgItem(page, static_cast<int>(list.listId));
+        PlaceControl(control, {left, top + ScaleY(OptionDetailPanel::kHeight),
+                               client.right - 2 * left, height});
+        FitColumn(control);
+    }
+    panel_.Place();
+}
+
+void OptionLists::Leave(HWND page, UINT listId) {
+    if (!ListOfId(listId)) return;
+    const Option* refused = StoreShown(page);
+    ClearSelection(GetDlgItem(page, static_cast<int>(listId)));
+    if (refused) refused->explain(page);
+}
+
+void OptionLists::OnNotify(HWND page, const NMHDR& header) {
+    const OptionList* list = ListOfId(static_cast<UINT>(header.idFrom));
+    if (!list) return;
+    switch (header.code) {
+    case LVN_ITEMCHANGED:
+        OnItemChanged(page, *list, reinterpret_cast<const NMLISTVIEW&>(header));
+        break;
+    case LVN_ITEMACTIVATE:
+        // Enter on a row that only has the focus, as the first one after the list was entered.
+        if (const int row = FocusedRow(header.hwndFrom); row >= 0) SelectRow(header.hwndFrom, row);
+        break;
+    default:
+        break;
+    }
+}
+
+void OptionLists::OnItemChanged(HWND page, const OptionList& list, const NMLISTVIEW& change) {
+    if (!(change.uChanged & LVIF_STATE)) return;
+    const UINT flipped = (change.uOldState ^ change.uNewState) & LVIS_SELECTED;
+    if (!flipped || change.iItem < 0 || static_cast<size_t>(change.iItem) >= list.options.size())
+        return;
+    const Option& option = list.options[static_cast<size_t>(change.iItem)];
+    if (change.uNewState & LVIS_SELECTED) {
+        Present(page, option);
+    } else if (shown_ == &option) {
+        const Option* refused = StoreShown(page);
+        if (refused) refused->explain(page);
+    }
+}
+
+void OptionLists::Present(HWND page, const Option& option) {
+    panel_.Hide();
+    shown_ = &option;
+    const WideString tip = TipOf(option);
+    const WideString label = LanguageText(option.texts.label);
+    switch (option.kind) {
+    case OptionKind::Check:
+        panel_.ShowCheck(label.CStr(), tip.CStr(), (settingsStore.*option.setting).value != 0);
+        break;
+    case OptionKind::Choice:
+        PresentChoice(option, label.CStr(), tip.CStr());
+        break;
+    case OptionKind::Path:
+        panel_.ShowPath(tip.CStr(), (settingsStore.*option.text).value.CStr());
+        break;
+    case OptionKind::Text:
+        panel_.ShowText(tip.CStr(), (settingsStore.*option.text).value.CStr());
+        break;
+    case OptionKind::Custom:
+        option.showCustom(page, SW_SHOW);
+        break;
+    }
+}
+
+void OptionLists::PresentChoice(const Option& option, const wchar_t* label, const wchar_t* tip) {
+    HWND combo = panel_.ShowCombo(label, tip);
+    if (option.fill) option.fill(combo);
+    for (const UINT choice : option.choices)
+        AddEntry(combo, LanguageText(choice).CStr());
+    panel_.FitEntries();
+    const uint32_t value = (settingsStore.*option.setting).value;
+    if (!option.storesData)
+        SelectIndex(combo, value - option.firstNumber);
+    else if (!SelectData(combo, value))
+        SelectIndex(combo, 0);
+}
+
+const Option* OptionLists::StoreShown(HWND page) {
+    // Off the panel first: what follows may deselect the row once more.
+    const Option* option = shown_;
+    shown_ = nullptr;
+    if (!option) return nullptr;
+    bool refused = false;
+    switch (option->kind) {
+    case OptionKind::Check:
+        refused = panel_.IsChecked() && option->refuses && option->refuses();
+        (settingsStore.*option->setting).Set(panel_.IsChecked() && !refused ? 1 : 0);
+        break;
+    case OptionKind::Choice:
+        (settingsStore.*option->setting).Set(ChosenNumber(*option));
+        break;
+    case OptionKind::Path:
+        (settingsStore.*option->text).Set(panel_.Path().CStr());
+        break;
+    case OptionKind::Text:
+        (settingsStore.*option->text).Set(panel_.Text().CStr());
+        break;
+    case OptionKind::Custom:
+        option->showCustom(page, SW_HIDE);
+        break;
+    }
+    panel_.Hide();
+    return refused ? option : nullptr;
+}
+
+uint32_t OptionLists::ChosenNumber(const Option& option) const {
+    HWND combo = panel_.Combo();
+    if (option.storesData) return SelectedData(combo);
+    const LRESULT entry = SendMessage(combo, CB_GETCURSEL, 0, 0);
+    return static_cast<uint32_t>(entry) + option.firstNumber;
+}
+
+const OptionList* OptionLists::ListOfId(UINT id) const {
+    const auto found = std::ranges::find(lists_, id, &OptionList::listId);
+    return found == lists_.end() ? nullptr : &*found;
+}

@@ -1,0 +1,70 @@
+#include "pages/title_order.h"
+
+#include <cstdint>
+#include <iterator>
+
+#include "resource_ids.h"
+#include "settings/settings_store.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "ui/controls.h"
+#include "ui/list_items.h"
+
+namespace {
+constexpr int kListLeft = 10;
+constexpr int kListWidth = 160;
+constexpr int kListHeight = 62;
+constexpr int kRowHeight = 20; // Three whole rows.
+constexpr int kButtonLeft = 175;
+constexpr int kButtonWidth = 55;
+constexpr int kButtonHeight = 20;
+constexpr int kButtonPitch = 25;
+
+constexpr DwordSetting SettingsStore::*kPlaces[] = {
+    &SettingsStore::CalTitlesOrder0, &SettingsStore::CalTitlesOrder1,
+    &SettingsStore::CalTitlesOrder2, &SettingsStore::CalTitlesOrder3,
+    &SettingsStore::CalTitlesOrder4, &SettingsStore::CalTitlesOrder5,
+};
+constexpr auto kTitles = static_cast<uint32_t>(std::size(kPlaces));
+
+// In the order of the titles' numbers.
+constexpr UINT kNames[kTitles] = {
+    IDS_CALENDAR_TITLE_OVERDUE,        IDS_CALENDAR_TITLE_UNDATED, IDS_CALENDAR_TITLE_MAIL,
+    IDS_CALENDAR_TITLE_SPECIAL_EVENTS, IDS_CALENDAR_TITLE_WEATHER, IDS_CALENDAR_TITLE_DAYS,
+};
+
+HWND ListOf(HWND page, UINT firstId) {
+    return GetDlgItem(page, static_cast<int>(firstId));
+}
+} // namespace
+
+void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
+    HWND list = CreateList(page, firstId, font, kRowHeight);
+    PlaceControl(list, {Scale(kListLeft), ScaleY(top), Scale(kListWidth), ScaleY(kListHeight)});
+    for (uint32_t row = 0; row < kTitles; ++row) {
+        const uint32_t stored = (settingsStore.*kPlaces[row]).value;
+        const uint32_t title = stored < kTitles ? stored : row;
+        AddRow(list, LanguageText(kNames[title]).CStr(), title);
+    }
+    FitColumn(list);
+    const UINT buttons[] = {IDS_MOVE_UP, IDS_MOVE_DOWN};
+    for (UINT i = 0; i < std::size(buttons); ++i) {
+        const int y = top + static_cast<int>(i) * kButtonPitch;
+        CreateControl(page, L"BUTTON", LanguageText(buttons[i]).CStr(), WS_TABSTOP, firstId + 1 + i,
+                      {Scale(kButtonLeft), ScaleY(y), Scale(kButtonWidth), ScaleY(kButtonHeight)},
+                      font);
+    }
+    ShowControlRange(page, firstId, firstId + kTitleOrderIds - 1, SW_HIDE);
+}
+
+bool OnTitleOrderButton(HWND page, UINT firstId, UINT id) {
+    if (id != firstId + 1 && id != firstId + 2) return false;
+    MoveSelectedRow(page, ListOf(page, firstId), id == firstId + 1);
+    return true;
+}
+
+void SaveTitleOrder(HWND page, UINT firstId) {
+    HWND list = ListOf(page, firstId);
+    for (uint32_t row = 0; list && row < kTitles; ++row)
+        (settingsStore.*kPlaces[row]).Set(RowData(list, static_cast<int>(row)));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+// Lists of one column: report-mode list views without a header.
+
+// An empty list with rows `rowHeight` units high (a line of text alone is too low for a finger), of
+// which one can be selected. Null when the platform refuses.
+HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight);
+
+// Makes the column as wide as the list has room, so that no scroll bar lies below it. To be called
+// whenever the list's size or number of rows changed.
+void FitColumn(HWND list);
+
+// Adds a row at the end, with a number as its data.
+void AddRow(HWND list, const wchar_t* text, uint32_t data = 0);
+
+[[nodiscard]] int RowCount(HWND list);
+[[nodiscard]] uint32_t RowData(HWND list, int row);
+
+// −1 for none.
+[[nodiscard]] int SelectedRow(HWND list);
+[[nodiscard]] int FocusedRow(HWND list);
+// Selects and focuses a row and scrolls it into view.
+void SelectRow(HWND list, int row);
+// Leaves no row selected, focused or marked.
+void ClearSelection(HWND list);
+
+// Moves the selected row one place up or down, with its text (up to 1,023 characters), data, tick
+// and selection; a row at the edge stays. Where none is selected a message box over `owner` says
+// so. Either may be gone when it returns.
+void MoveSelectedRow(HWND owner, HWND list, bool up);

@@ -1,0 +1,216 @@
+#include "ui/option_detail_panel.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "resource_ids.h"
+#include "shell/services/handles.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "ui/controls.h"
+
+namespace {
+constexpr int kMargin = 10;
+constexpr int kTipHeight = 38;
+constexpr int kValueTop = 42; // Below the panel's top.
+constexpr int kValueHeight = 20;
+constexpr int kLabelDrop = 3; // A label stands this much lower than its combo box.
+constexpr int kLabelWidth = 105;
+constexpr int kComboLeft = 108;
+constexpr int kComboDropHeight = 100;
+constexpr int kButtonWidth = 40;
+constexpr int kButtonPitch = 45;
+constexpr int kEntryMargins = 8;
+
+int TextWidth(HDC dc, const WideString& text) {
+    SIZE size{};
+    GetTextExtentExPoint(dc, text.CStr(), static_cast<int>(text.Length()), 0, nullptr, nullptr,
+                         &size);
+    return size.cx;
+}
+
+WideString EntryText(HWND combo, WPARAM entry) {
+    const LRESULT length = SendMessage(combo, CB_GETLBTEXTLEN, entry, 0);
+    if (length <= 0) return {};
+    std::vector<wchar_t> buffer(static_cast<size_t>(length) + 1);
+    SendMessage(combo, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(buffer.data()));
+    return WideString(buffer.data());
+}
+
+int LongestEntry(HDC dc, HWND combo) {
+    int longest = 0;
+    const auto count = static_cast<WPARAM>(SendMessage(combo, CB_GETCOUNT, 0, 0));
+    for (WPARAM entry = 0; entry < count; ++entry)
+        longest = std::max(longest, TextWidth(dc, EntryText(combo, entry)));
+    return longest;
+}
+
+// Calls `measure` with a device context in which the font is selected.
+template <typename Measure>
+int Measured(HWND window, HFONT font, Measure measure) {
+    HDC dc = GetDC(window);
+    int pixels = 0;
+    {
+        const SelectScope selected(dc, font);
+        pixels = measure(dc);
+    }
+    ReleaseDC(window, dc);
+    return pixels;
+}
+} // namespace
+
+void OptionDetailPanel::Create(HWND page, HFONT font, UINT firstId, int top) {
+    struct PartRow {
+        const wchar_t* className;
+        const wchar_t* text;
+        DWORD style;
+    };
+    const WideString clear = LanguageText(IDS_CLEAR);
+    const WideString browse = LanguageText(IDS_BROWSE);
+    const PartRow rows[kIdCount] = {
+        {L"STATIC", L"Tip text", SS_LEFT | SS_NOPREFIX},
+        {L"STATIC", L"Static combo :", SS_RIGHT},
+        {L"COMBOBOX", L"", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST},
+        {L"BUTTON", L"Calendar static checkbox", WS_TABSTOP | BS_AUTOCHECKBOX | BS_LEFTTEXT},
+        {L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL | ES_READONLY},
+        {L"BUTTON", clear.CStr(), WS_TABSTOP},
+        {L"BUTTON", browse.CStr(), WS_TABSTOP},
+        {L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL},
+        {L"BUTTON", clear.CStr(), WS_TABSTOP},
+    };
+    page_ = page;
+    font_ = font;
+    firstId_ = firstId;
+    top_ = top;
+    for (UINT i = 0; i < kIdCount; ++i)
+        CreateControl(page, rows[i].className, rows[i].text, rows[i].style, firstId + i, {}, font);
+    SendMessage(Control(TextEdit), EM_LIMITTEXT, kTextLimit, 0);
+    Place();
+    Hide();
+}
+
+void OptionDetailPanel::Place() const {
+    RECT client{};
+    GetClientRect(page_, &client);
+    const int width = client.right;
+    const int left = Scale(kMargin);
+    const int top = ScaleY(top_);
+    const int value = top + ScaleY(kValueTop);
+    const int height = ScaleY(kValueHeight);
+    const int button = Scale(kButtonWidth);
+    const int lastButton = width - left - button;
+    const int firstButton = lastButton - Scale(kButtonPitch);
+    const int gap = Scale(kMargin);
+    PlaceControl(Control(Tip), {left, top, width - 2 * left, ScaleY(kTipHeight)});
+    PlaceCombo(width);
+    PlaceControl(Control(CheckBox), {left, value, width - 2 * left, height});
+    PlaceControl(Control(PathEdit), {left, value, firstButton - gap - left, height});
+    PlaceControl(Control(PathClear), {firstButton, value, button, height});
+    PlaceControl(Control(PathBrowse), {lastButton, value, button, height});
+    PlaceControl(Control(TextEdit), {left, value, lastButton - gap - left, height});
+    PlaceControl(Control(TextClear), {lastButton, value, button, height});
+}
+
+// `width` is the page's, in pixels.
+void OptionDetailPanel::PlaceCombo(int width) const {
+    const int value = ScaleY(top_ + kValueTop);
+    const int right = width - Scale(kMargin);
+    const int gap = Scale(kComboLeft - kLabelWidth);
+    const WideString label = ControlText(Control(ComboLabel));
+    const int labelWidth =
+        Measured(page_, font_, [&label](HDC dc) { return TextWidth(dc, label); });
+    const int left = std::min(Scale(kComboLeft),
+                              std::max(Scale(kMargin) + labelWidth + gap, right - entriesWidth_));
+    PlaceControl(Control(ComboLabel),
+                 {0, value + ScaleY(kLabelDrop), left - gap, ScaleY(kValueHeight)});
+    PlaceControl(Control(ComboBox), {left, value, right - left, ScaleY(kComboDropHeight)});
+}
+
+void OptionDetailPanel::Hide() const {
+    ShowControlRange(page_, firstId_, firstId_ + kIdCount - 1, SW_HIDE);
+}
+
+void OptionDetailPanel::ShowCheck(const wchar_t* label, const wchar_t* tip, bool checked) const {
+    SetPartText(Tip, tip);
+    SetPartText(CheckBox, label);
+    SendMessage(Control(CheckBox), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+    Show(Tip, Tip);
+    Show(CheckBox, CheckBox);
+}
+
+HWND OptionDetailPanel::ShowCombo(const wchar_t* label, const wchar_t* tip) {
+    SetPartText(Tip, tip);
+    SetPartText(ComboLabel, label);
+    SendMessage(Combo(), CB_RESETCONTENT, 0, 0);
+    Show(Tip, ComboBox);
+    return Combo();
+}
+
+void OptionDetailPanel::FitEntries() {
+    const int longest =
+        Measured(page_, font_, [combo = Combo()](HDC dc) { return LongestEntry(dc, combo); });
+    entriesWidth_ = longest + GetSystemMetrics(SM_CXVSCROLL) + Scale(kEntryMargins);
+    RECT client{};
+    GetClientRect(page_, &client);
+    PlaceCombo(client.right);
+}
+
+void OptionDetailPanel::ShowPath(const wchar_t* tip, const wchar_t* path) const {
+    SetPartText(Tip, tip);
+    SetPartText(PathEdit, path);
+    Show(Tip, Tip);
+    Show(PathEdit, PathBrowse);
+}
+
+void OptionDetailPanel::ShowText(const wchar_t* tip, const wchar_t* text) const {
+    SetPartText(Tip, tip);
+    SetPartText(TextEdit, text);
+    Show(Tip, Tip);
+    Show(TextEdit, TextClear);
+}
+
+bool OptionDetailPanel::IsChecked() const {
+    return IsBoxChecked(page_, firstId_ + CheckBox);
+}
+
+HWND OptionDetailPanel::Combo() const {
+    return Control(ComboBox);
+}
+
+WideString OptionDetailPanel::Path() const {
+    return ControlText(Control(PathEdit), kTextLimit);
+}
+
+WideString OptionDetailPanel::Text() const {
+    return ControlText(Control(TextEdit), kTextLimit);
+}
+
+bool OptionDetailPanel::OnButton(UINT id) const {
+    if (id == firstId_ + PathClear)
+        SetPartText(PathEdit, L"");
+    else if (id == firstId_ + TextClear)
+        SetPartText(TextEdit, L"");
+    else
+        return false;
+    return true;
+}
+
+UINT OptionDetailPanel::BrowseId() const {
+    return firstId_ + PathBrowse;
+}
+
+HWND OptionDetailPanel::PathField() const {
+    return Control(PathEdit);
+}
+
+HWND OptionDetailPanel::Control(Part part) const {
+    return GetDlgItem(page_, static_cast<int>(firstId_ + part));
+}
+
+void OptionDetailPanel::SetPartText(Part part, const wchar_t* text) const {
+    SetWindowText(Control(part), text);
+}
+
+void OptionDetailPanel::Show(Part first, Part last) const {
+    ShowControlRange(page_, firstId_ + first, firstId_ + last, SW_SHOW);
+}

@@ -1,0 +1,229 @@
+#include "pages/calendar_page.h"
+
+#include <vector>
+
+#include "tests/pages/calendar_page_fixture.h"
+#include "ui/key_navigation.h"
+
+namespace {
+constexpr int kDays = 1201;
+constexpr int kHideEmptyDays = 1206;
+constexpr int kHideEmptyLine = 1207;
+constexpr int kConflicts = 1215;
+constexpr int kWeatherNotice = 1218;
+constexpr int kWeatherLayout = 1220;
+constexpr int kWeatherTap = 1222;
+constexpr int kAppointmentRightIcons = 1265;
+constexpr int kDisplayFormat = 1272;
+
+using CalendarPageTest = CalendarPageFixture;
+
+struct FormCase {
+    int id;
+    Number setting;
+    bool isCombo;
+    uint32_t stored;
+    int chosen;
+};
+constexpr FormCase kFormCases[] = {
+    {1203, &SettingsStore::FirstWeekInYear, true, 3, 2},
+    {1205, &SettingsStore::ClrTextColor, true, 2, 1},
+    {1206, &SettingsStore::HideEmptyGroups, false, 0, 1},
+    {1207, &SettingsStore::HideEmptyGroupsItem, false, 1, 0},
+    {1208, &SettingsStore::SEventsOnClr, false, 1, 0},
+    {1209, &SettingsStore::ClrSortTsksWithAppts, false, 1, 0},
+    {1211, &SettingsStore::dAppoPassedToday, true, 1, 0},
+    {1213, &SettingsStore::LeadingRects, true, 2, 0},
+    {1215, &SettingsStore::Conflicting, true, 0, 2},
+    {1216, &SettingsStore::IncludeYearlyCounters, false, 0, 1},
+    {1217, &SettingsStore::HideAlldayEventIcon, false, 1, 0},
+    {1220, &SettingsStore::WeatehrLayout, true, 3, 2},
+    {1222, &SettingsStore::WeatehrOnClick, true, 0, 1},
+};
+
+// One control at a time, so that two that were swapped show.
+TEST_F(CalendarPageTest, EveryFormControlShowsAndSavesItsOwnSetting) {
+    for (const FormCase& changed : kFormCases) {
+        for (const FormCase& other : kFormCases)
+            (settingsStore.*other.setting).Set(other.stored);
+        Open();
+        const auto message = static_cast<UINT>(changed.isCombo ? CB_GETCURSEL : BM_GETCHECK);
+        EXPECT_EQ(SendMessage(Control(changed.id), message, 0, 0),
+                  static_cast<LRESULT>(changed.stored));
+        SendMessage(Control(changed.id), changed.isCombo ? CB_SETCURSEL : BM_SETCHECK,
+                    static_cast<WPARAM>(changed.chosen), 0);
+        Close();
+        for (const FormCase& other : kFormCases) {
+            EXPECT_EQ((settingsStore.*other.setting).value,
+                      other.id == changed.id ? static_cast<uint32_t>(changed.chosen) : other.stored)
+                << other.id << " after " << changed.id;
+        }
+    }
+}
+
+TEST_F(CalendarPageTest, ShowsNumbersThatItDoesNotOffer) {
+    settingsStore.dNumOfDays.Set(45);
+    settingsStore.Conflicting.Set(5);
+    settingsStore.MonthlyPopIconsSize.Set(static_cast<uint32_t>(Scale(14) + 1));
+    Open();
+    EXPECT_EQ(SendMessage(Control(kDays), CB_GETCOUNT, 0, 0), 31);
+    EXPECT_EQ(TextOf(Control(kDays)), L"45");
+    EXPECT_EQ(Chosen(kConflicts), -1);
+    GoTo(5);
+    Select(kMonthList, 7);
+    EXPECT_EQ(Chosen(kCombo), 0);
+    Close();
+    EXPECT_EQ(settingsStore.dNumOfDays.value, 45u);
+    EXPECT_EQ(settingsStore.Conflicting.value, 0xFFFFFFFFu);
+    EXPECT_EQ(settingsStore.MonthlyPopIconsSize.value, static_cast<uint32_t>(Scale(6)));
+
+    Open();
+    Choose(window_, kDays, 29);
+    Close();
+    EXPECT_EQ(settingsStore.dNumOfDays.value, 30u) << "the number, not the entry";
+    Open();
+    EXPECT_EQ(SendMessage(Control(kDays), CB_GETCOUNT, 0, 0), 30);
+    SendMessage(Control(kDays), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    Close();
+    EXPECT_EQ(settingsStore.dNumOfDays.value, 0xFFFFFFFFu);
+}
+
+TEST_F(CalendarPageTest, HidesTheEmptyLineOnlyWhereDaysAreShown) {
+    settingsStore.HideEmptyGroups.Set(1);
+    Open();
+    EXPECT_FALSE(IsWindowEnabled(Control(kHideEmptyLine)));
+    Tap(window_, kHideEmptyDays);
+    EXPECT_TRUE(IsWindowEnabled(Control(kHideEmptyLine)));
+    Tap(window_, kHideEmptyDays);
+    EXPECT_FALSE(IsWindowEnabled(Control(kHideEmptyLine)));
+}
+
+TEST_F(CalendarPageTest, OffersTheWeatherWhereItsProductIs) {
+    SetText(HKEY_CURRENT_USER, L"Software\\Teskel\\Nimbrel", L"NWUtilsPath", kUtility);
+    settingsStore.WeatehrLayout.Set(2);
+    Open();
+    for (const bool isThere : {false, true, false}) {
+        if (isThere)
+            CloseHandle(CreateFile(kUtility, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+        else
+            DeleteFile(kUtility);
+        GoTo(7);
+        EXPECT_EQ(IsShown(kWeatherNotice), !isThere);
+        for (int id = kWeatherNotice + 1; id <= kWeatherTap; ++id)
+            EXPECT_EQ(IsShown(id), isThere) << id;
+        GoTo(6);
+        for (int id = kWeatherNotice; id <= kWeatherTap; ++id)
+            EXPECT_FALSE(IsShown(id)) << id;
+    }
+    EXPECT_EQ(Chosen(kWeatherLayout), 2);
+    Close();
+    EXPECT_EQ(settingsStore.WeatehrLayout.value, 2u) << "kept where it cannot be seen";
+}
+
+TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
+    settingsStore.ClrApptRightIcons.Set(4 + 16);
+    settingsStore.ApptLeftAlignIcon2.Set(8);
+    Open(4);
+    const auto choose = [this](int code, uint32_t flag) {
+        SendMessage(window_, kMessageToolbarMenuSelect, flag, code);
+    };
+    const auto tapRight = [this](int button) {
+        RECT strip{};
+        GetClientRect(Control(kAppointmentRightIcons), &strip);
+        const LPARAM place = MAKELPARAM(strip.right * (2 * button + 1) / 16, strip.bottom / 2);
+        SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONDOWN, 0, place);
+        SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONUP, 0, place);
+        return settingsStore.ClrApptRightIcons.value;
+    };
+    choose(1, 4);
+    EXPECT_EQ(settingsStore.ApptLeftAlignIcon1.value, 4u);
+    EXPECT_EQ(settingsStore.ClrApptRightIcons.value, 16u);
+    EXPECT_EQ(tapRight(2), 16u) << "4 is at the left";
+    EXPECT_EQ(tapRight(3), 16u) << "8 has been there from the start";
+    EXPECT_EQ(tapRight(0), 17u);
+    choose(1, 8);
+    EXPECT_EQ(tapRight(2), 21u) << "4 is offered again";
+    choose(1, 0);
+    EXPECT_EQ(tapRight(3), 21u) << "8 is still the other one's";
+    choose(2, 0);
+    EXPECT_EQ(tapRight(3), 29u);
+    EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u) << "tasks have icons of their own";
+    choose(3, 32);
+    EXPECT_EQ(settingsStore.TaskLeftAlignIcon1.value, 32u);
+    EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u - 32);
+    choose(4, 256);
+    EXPECT_EQ(settingsStore.TaskLeftAlignIcon2.value, 256u);
+}
+
+TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {
+    settingsStore.ApptDisplayFormat.Set(1);
+    Open(4);
+    RECT text{};
+    GetWindowRect(Control(kDisplayFormat), &text);
+    MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&text), 2);
+    const int top = text.top;
+    const auto tap = [&](int x, int y) {
+        SendMessage(window_, WM_LBUTTONDOWN, 0, MAKELPARAM(x, y));
+        return settingsStore.ApptDisplayFormat.value;
+    };
+    for (uint32_t format = 2; format <= 12; ++format)
+        EXPECT_EQ(tap(Scale(16), top + 1), format);
+    EXPECT_EQ(tap(Scale(26) - 1, top + ScaleY(12) - 1), 1u);
+    EXPECT_EQ(tap(Scale(16) - 1, top + 1), 12u);
+    EXPECT_EQ(tap(Scale(6), top + 1), 11u);
+    for (const POINT& beside : {POINT{Scale(6) - 1, top + 1}, POINT{Scale(26), top + 1},
+                                POINT{Scale(10), top}, POINT{Scale(10), top + ScaleY(12)}})
+        EXPECT_EQ(tap(beside.x, beside.y), 11u);
+    const auto press = [this](WPARAM key) {
+        SetFocus(Control(kDisplayFormat));
+        const MSG message{Control(kDisplayFormat), WM_KEYDOWN, key, 0, 0, {}};
+        EXPECT_TRUE(TranslateNavigationKey(window_, message));
+        return settingsStore.ApptDisplayFormat.value;
+    };
+    EXPECT_EQ(press(VK_RIGHT), 12u);
+    EXPECT_EQ(press(VK_RETURN), 1u);
+    EXPECT_EQ(press(VK_LEFT), 12u);
+    EXPECT_EQ(press(VK_UP), 12u);
+    EXPECT_NE(GetFocus(), Control(kDisplayFormat)) << "Up and Down lead out";
+    settingsStore.ApptDisplayFormat.Set(0xFFFFFFFF);
+    EXPECT_EQ(tap(Scale(20), top + 1), 1u);
+    GoTo(0);
+    EXPECT_EQ(tap(Scale(20), top + 1), 1u) << "on this section only";
+}
+
+// On every section and screen, what is shown lies on the page, off the tab strip and off each
+// other; also after the screen was turned.
+TEST_F(CalendarPageTest, FitsEveryScreen) {
+    Open();
+    const SIZE sizes[] = {{240, 268}, {320, 188}, {240, 240}, {240, 268}};
+    for (const SIZE& size : sizes) {
+        MoveWindow(window_, 0, 0, Scale(size.cx), ScaleY(size.cy), TRUE);
+        for (int tab = 0; tab < 9; ++tab) {
+            GoTo(tab);
+            RECT page{};
+            GetClientRect(window_, &page);
+            page.bottom -= ScaleY(22) - 1;
+            std::vector<RECT> places;
+            for (HWND child = GetWindow(window_, GW_CHILD); child;
+                 child = GetWindow(child, GW_HWNDNEXT)) {
+                if (!IsWindowVisible(child) || child == page_->tabStrip) continue;
+                RECT place{};
+                RECT common{};
+                GetWindowRect(child, &place);
+                MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+                IntersectRect(&common, &place, &page);
+                EXPECT_TRUE(EqualRect(&common, &place))
+                    << GetDlgCtrlID(child) << " on " << size.cx << "x" << size.cy;
+                for (const RECT& other : places)
+                    EXPECT_FALSE(IntersectRect(&common, &place, &other))
+                        << GetDlgCtrlID(child) << " on " << size.cx << "x" << size.cy;
+                places.push_back(place);
+            }
+            EXPECT_FALSE(places.empty());
+            if (tab != 4) continue;
+            // The sample hangs below the last control: a line of text, a gap and its own height.
+            EXPECT_LE(places.back().top + ScaleY(12 + 4 + 42), page.bottom) << size.cx;
+        }
+    }
+}
+} // namespace
