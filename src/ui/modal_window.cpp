@@ -24,6 +24,18 @@ class TitleScope {
     HWND main_ = nullptr;
     WideString previous_;
 };
+
+void FillScreen(HWND dialog) {
+    SHINITDLGINFO info{};
+    info.dwMask = SHIDIM_FLAGS;
+    info.hDlg = dialog;
+    info.dwFlags = SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
+    SHInitDialog(&info);
+    for (HWND control = GetWindow(dialog, GW_CHILD); control;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        SendMessage(control, WM_SETFONT, reinterpret_cast<WPARAM>(application.normalFont), FALSE);
+    }
+}
 } // namespace
 
 void ModalWindow::OnNotify(HWND, const NMHDR&) {}
@@ -52,6 +64,26 @@ int ModalWindow::Run(HWND owner, const wchar_t* className, const wchar_t* title)
                              place.bottom - place.top, owner, nullptr, application.instance, this);
     if (!window_) return IDCANCEL;
     const TitleScope shownTitle(owner, title);
+    const int answer = RunOver(owner);
+    UnregisterClass(className, application.instance);
+    return answer;
+}
+
+int ModalWindow::RunDialog(HWND owner, UINT dialogTemplate, const wchar_t* title) {
+    answer_ = 0;
+    HRSRC found = FindResource(application.instance, MAKEINTRESOURCE(dialogTemplate), RT_DIALOG);
+    if (!found) return IDCANCEL;
+    // The device makes dialogs from templates in memory only; a loaded resource is its bytes.
+    const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(application.instance, found));
+    window_ = CreateDialogIndirectParam(application.instance, form, owner, DialogProc,
+                                        reinterpret_cast<LPARAM>(this));
+    if (!window_) return IDCANCEL;
+    SetWindowText(window_, title);
+    ShowWindow(window_, SW_SHOW);
+    return RunOver(owner);
+}
+
+int ModalWindow::RunOver(HWND owner) {
     EnableWindow(owner, FALSE);
     if (!IsChild(window_, GetFocus())) FocusFirstControl(window_);
     RunLoop();
@@ -59,7 +91,6 @@ int ModalWindow::Run(HWND owner, const wchar_t* className, const wchar_t* title)
     EnableWindow(owner, TRUE);
     if (window_) DestroyWindow(window_);
     SetForegroundWindow(owner);
-    UnregisterClass(className, application.instance);
     return answer_;
 }
 
@@ -72,7 +103,9 @@ void ModalWindow::RunLoop() {
             Finish(IDCANCEL);
             break;
         }
-        if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
+        const bool isEscape = message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
+        // An open drop-down list is what Escape closes first.
+        if (isEscape && !SendMessage(message.hwnd, CB_GETDROPPEDSTATE, 0, 0))
             SendMessage(window_, WM_COMMAND, IDCANCEL, 0);
         else if (!(message.message == WM_KEYDOWN && OnKey(window_, message)) &&
                  !TranslateNavigationKey(window_, message)) {
@@ -96,41 +129,42 @@ void ModalWindow::OnCreate(HWND window) {
     Layout(window);
 }
 
-LRESULT ModalWindow::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+bool ModalWindow::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_CREATE:
+    case WM_INITDIALOG:
         OnCreate(window);
-        return 0;
+        return true;
     case WM_SIZE:
         Layout(window);
-        return 0;
+        return true;
     case WM_ACTIVATE:
         SHHandleWMActivate(window, wParam, lParam, &activateInfo_, 0);
-        return 0;
+        return true;
     case WM_SETTINGCHANGE:
         SHHandleWMSettingChange(window, wParam, lParam, &activateInfo_);
-        return 0;
+        return true;
     case WM_COMMAND:
         OnCommand(window, LOWORD(wParam), HIWORD(wParam));
-        return 0;
+        return true;
     case WM_NOTIFY:
         OnNotify(window, *reinterpret_cast<const NMHDR*>(lParam));
-        return 0;
+        return true;
     case WM_PAINT: {
         PAINTSTRUCT paint;
         OnPaint(window, BeginPaint(window, &paint));
         EndPaint(window, &paint);
-        return 0;
+        return true;
     }
     case WM_CLOSE:
         Finish(IDCANCEL);
-        return 0;
+        return true;
     case WM_DESTROY:
         window_ = nullptr;
         if (!answer_) Finish(IDCANCEL);
-        return 0;
+        return true;
     default:
-        return DefWindowProc(window, message, wParam, lParam);
+        return false;
     }
 }
 
@@ -140,6 +174,18 @@ LRESULT CALLBACK ModalWindow::WindowProc(HWND window, UINT message, WPARAM wPara
         SetWindowLongPtr(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
     }
     auto* self = reinterpret_cast<ModalWindow*>(GetWindowLongPtr(window, GWLP_USERDATA));
-    return self ? self->Dispatch(window, message, wParam, lParam)
-                : DefWindowProc(window, message, wParam, lParam);
+    if (self && self->Handle(window, message, wParam, lParam)) return 0;
+    return DefWindowProc(window, message, wParam, lParam);
+}
+
+INT_PTR CALLBACK ModalWindow::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CTLCOLORDLG || message == WM_CTLCOLORSTATIC)
+        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
+    if (message == WM_INITDIALOG) {
+        FillScreen(dialog);
+        SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
+    }
+    auto* self = reinterpret_cast<ModalWindow*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
+    // Handled, WM_INITDIALOG would have the platform move the focus.
+    return self && self->Handle(dialog, message, wParam, lParam) && message != WM_INITDIALOG;
 }

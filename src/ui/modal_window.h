@@ -15,6 +15,10 @@ class ModalWindow {
     // Shows the window over `owner`, which is disabled meanwhile, and runs until it is done. Gives
     // what Finish was given; IDCANCEL when the window cannot be made or is closed another way.
     int Run(HWND owner, const wchar_t* className, const wchar_t* title);
+    // The same with a dialog of the program's own resources: its controls are there, in the
+    // program's font, when CreateControls is called to fill them. It runs in the program's loop, as
+    // Up and Down would not leave a drop-down list in the platform's.
+    int RunDialog(HWND owner, UINT dialogTemplate, const wchar_t* title);
 
   protected:
     ModalWindow() = default;
@@ -35,8 +39,11 @@ class ModalWindow {
 
   private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    // False for a message that is the platform's to handle.
+    bool Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnCreate(HWND window);
+    int RunOver(HWND owner);
     void RunLoop();
 
     HWND window_ = nullptr;
