@@ -5,6 +5,7 @@
 #include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
+#include "pages/tabs_page.h"
 #include "pages/tasks_page.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
@@ -19,6 +20,10 @@ struct PageEntry {
 template <typename Page>
 SettingsPage* MakePage() {
     return new (std::nothrow) Page;
+}
+
+SettingsPage* MakeTabs() {
+    return new (std::nothrow) TabsPage;
 }
 
 template <UINT... titles>
@@ -43,8 +48,7 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_COLOURS, L"ColorSettingsWin",
      MakeOutline<IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES>},
     {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
-    {IDS_PAGE_TABS, L"TabsSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},
+    {IDS_PAGE_TABS, L"TabsSettingsWin", MakeTabs},
     {IDS_PAGE_CATEGORY, L"CategorySettingsWin",
      MakeOutline<IDS_TAB_CATEGORY_CATEGORIES, IDS_TAB_CATEGORY_FILTERS, IDS_TAB_MISCELLANEOUS>},
 };

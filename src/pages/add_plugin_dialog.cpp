@@ -1,0 +1,108 @@
+#include "pages/add_plugin_dialog.h"
+
+#include <vector>
+
+#include "resource_ids.h"
+#include "settings/today_items.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "shell/services/today_screen.h"
+#include "ui/controls.h"
+#include "ui/messages.h"
+#include "ui/modal_window.h"
+
+namespace {
+constexpr int kMargin = 10;
+constexpr int kHelpTop = 8;
+constexpr int kHelpHeight = 56;
+constexpr int kLabelTop = 68;
+constexpr int kListTop = 84;
+constexpr int kRowHeight = 20;
+constexpr int kDropHeight = 100;
+constexpr int kButtonWidth = 108;
+constexpr int kButtonGap = 6; // Below the button.
+
+// Fixed texts, not the language library's.
+constexpr wchar_t kNothingSelected[] = L"No Today screen plugin is selecetd. Please select a Today "
+                                       L"screen plugin from the selection combo-box.";
+constexpr wchar_t kNothingSelectedCaption[] = L"Selection Missing";
+
+class AddPluginDialog final : public ModalWindow {
+  public:
+    [[nodiscard]] const WideString& Chosen() const { return chosen_; }
+
+  protected:
+    void CreateControls(HWND window) override;
+    void OnCommand(HWND window, UINT id, UINT notification) override;
+    void Layout(HWND window) override;
+
+  private:
+    void OnOk(HWND window);
+
+    std::vector<WideString> plugins_; // In the order of the list's entries.
+    WideString chosen_;
+};
+
+void AddPluginDialog::CreateControls(HWND window) {
+    SetDlgItemText(window, IDC_ADD_PLUGIN_LABEL, LanguageText(IDS_TABS_PLUGIN).CStr());
+    SetDlgItemText(window, IDC_ADD_PLUGIN_HELP, LanguageText(IDS_TABS_PLUGIN_HELP).CStr());
+    SetDlgItemText(window, IDCANCEL, LanguageText(IDS_CANCEL).CStr());
+    plugins_ = TodayPlugins();
+    HWND list = GetDlgItem(window, IDC_ADD_PLUGIN_LIST);
+    for (const WideString& plugin : plugins_)
+        AddEntry(list, plugin.CStr());
+    SelectIndex(list, 0);
+}
+
+void AddPluginDialog::Layout(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    const int left = Scale(kMargin);
+    const int width = client.right - 2 * left;
+    const int button = Scale(kButtonWidth);
+    const int row = ScaleY(kRowHeight);
+    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_HELP),
+                 {left, ScaleY(kHelpTop), width, ScaleY(kHelpHeight)});
+    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_LABEL), {left, ScaleY(kLabelTop), width, row});
+    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_LIST),
+                 {left, ScaleY(kListTop), width, ScaleY(kDropHeight)});
+    PlaceControl(
+        GetDlgItem(window, IDCANCEL),
+        {client.right - left - button, client.bottom - ScaleY(kButtonGap) - row, button, row});
+}
+
+void AddPluginDialog::OnCommand(HWND window, UINT id, UINT) {
+    if (id == IDOK) OnOk(window);
+    if (id == IDCANCEL) Finish(IDCANCEL);
+}
+
+void AddPluginDialog::OnOk(HWND window) {
+    const int entry = SelectedIndex(window, IDC_ADD_PLUGIN_LIST);
+    if (entry < 0) {
+        MessageBox(window, kNothingSelected, kNothingSelectedCaption, MB_OK);
+        return;
+    }
+    const WideString& plugin = plugins_[static_cast<size_t>(entry)];
+    if (IsTodayItemEnabled(plugin.CStr())) {
+        if (!AskYesNo(window, IDS_TABS_DISABLE_QUESTION, IDS_TABS_DISABLE_CAPTION)) {
+            Finish(IDCANCEL);
+            return;
+        }
+        DisableTodayItem(plugin.CStr());
+        // The Today screen may take its time; nothing of the question is to stay meanwhile.
+        InvalidateRect(window, nullptr, TRUE);
+        UpdateWindow(window);
+        RefreshTodayScreen();
+    }
+    chosen_ = plugin;
+    Finish(IDOK);
+}
+} // namespace
+
+bool ChoosePluginToAdd(HWND owner, WideString& name) {
+    AddPluginDialog dialog;
+    if (dialog.RunDialog(owner, IDD_ADD_PLUGIN, LanguageText(IDS_TABS_ADD_TITLE).CStr()) != IDOK)
+        return false;
+    name = dialog.Chosen();
+    return true;
+}
