@@ -33,7 +33,11 @@ constexpr PageSight kPages[kPageCount] = {
 constexpr int kGeneral = 0;
 constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
+constexpr int kTabs = 10;
 constexpr UINT kSkinBrowse = 1214;
+constexpr UINT kTabList = 1206;
+constexpr UINT kAddTab = 1209;
+constexpr UINT kPluginList = 473;
 
 void Show(const char* name) {
     constexpr DWORD kPaintTime = 150; // Milliseconds; paints come when all else is done.
@@ -109,6 +113,37 @@ void ShowOpenChoice() {
     Press(VK_ESCAPE);
 }
 
+// The box that opens over a dialog, both of which are dialogs to the platform.
+void ShowQuestion(HWND dialog, const char* name) {
+    PostMessage(dialog, WM_COMMAND, IDOK, 0);
+    WaitUntil([dialog] { return GetLastActivePopup(dialog) != dialog; });
+    HWND question = GetLastActivePopup(dialog);
+    Show(name);
+    PostMessage(question, WM_COMMAND, IDNO, 0);
+    WaitUntil([dialog] { return !IsWindow(dialog); });
+}
+
+// A plug-in's tab selected, the dialog that adds one, its list, and the question about a plug-in
+// that is on the Today screen.
+void ShowAddTab(const Program& program, HWND page) {
+    TapOn(GetDlgItem(page, kTabList));
+    constexpr int kPluginRow = 3;
+    Press(VK_HOME);
+    for (int row = 0; row < kPluginRow; ++row)
+        Press(VK_DOWN);
+    Show("page-10-tabs-2-selected");
+    TapOn(GetDlgItem(page, kAddTab));
+    HWND dialog = program.WaitForWindow(L"#32770");
+    if (!dialog) return;
+    Show("dialog-add-tab");
+    Press(VK_RETURN);
+    Show("dialog-add-tab-list");
+    Press(VK_ESCAPE);
+    constexpr WPARAM kEnabledPlugin = 1;
+    SendDlgItemMessage(dialog, kPluginList, CB_SETCURSEL, kEnabledPlugin, 0);
+    ShowQuestion(dialog, "question-add-tab");
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -122,6 +157,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
         if (row == kCalendar) ShowOptions(tab);
         if (row == kCalendar && tab == 3) ShowOpenChoice();
+        if (row == kTabs && tab == 1) ShowAddTab(program, page);
         if (row == kTasks && tab == 2) ShowIconChooser(page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
