@@ -7,43 +7,17 @@
 #include <variant>
 #include <vector>
 
+#include "bench/own_registry.h"
 #include "bench/timing.h"
-#include "settings/registry_tree.h"
 #include "settings/registry_values.h"
 #include "settings/setting_table.h"
 #include "settings/settings_store.h"
-#include "shell/services/handles.h"
 
 namespace {
 
-constexpr wchar_t kOwnKey[] = L"Software\\OVOptions benchmark";
 constexpr int kRounds = 101;
 // A path, since one of the texts is that of a library, which would be searched for otherwise.
 constexpr wchar_t kText[] = L"\\A folder\\a file";
-
-// The registry of the user and of the machine, for the benchmark's time: empty keys of its own.
-class OwnRegistry {
-  public:
-    OwnRegistry() {
-        DeleteKeyTree(HKEY_CURRENT_USER, kOwnKey);
-        user_.Reset(OpenOrCreateKey(HKEY_CURRENT_USER, L"Software\\OVOptions benchmark\\User"));
-        machine_.Reset(
-            OpenOrCreateKey(HKEY_CURRENT_USER, L"Software\\OVOptions benchmark\\Machine"));
-        RegOverridePredefKey(HKEY_CURRENT_USER, user_.Get());
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, machine_.Get());
-    }
-    OwnRegistry(const OwnRegistry&) = delete;
-    OwnRegistry& operator=(const OwnRegistry&) = delete;
-    ~OwnRegistry() {
-        RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-        RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
-        DeleteKeyTree(HKEY_CURRENT_USER, kOwnKey);
-    }
-
-  private:
-    UniqueKey user_;
-    UniqueKey machine_;
-};
 
 // One value of the store, with its key kept open.
 struct Value {

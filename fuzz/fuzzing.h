@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 // What libFuzzer calls, over and over.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
@@ -15,11 +16,11 @@ inline void Require(bool holds, const char* what) {
     std::abort();
 }
 
-// The input as a text, two bytes a character.
-inline std::wstring TextOf(const uint8_t* data, size_t size) {
-    std::wstring text;
-    for (size_t place = 0; place + 1 < size; place += 2)
-        text.push_back(static_cast<wchar_t>(data[place] | data[place + 1] << 8));
+// The input as a text, two bytes a character, without a terminator: a look behind its end is seen.
+inline std::vector<wchar_t> TextOf(const uint8_t* data, size_t size) {
+    std::vector<wchar_t> text(size / 2);
+    for (size_t place = 0; place < text.size(); ++place)
+        text[place] = static_cast<wchar_t>(data[2 * place] | data[2 * place + 1] << 8);
     return text;
 }
 

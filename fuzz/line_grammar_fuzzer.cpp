@@ -3,6 +3,7 @@
 #include "files/line_grammar.h"
 #include "files/line_reader.h"
 #include "files/line_writer.h"
+#include "files/utf8.h"
 #include "fuzz/fuzzing.h"
 #include "tests/support/memory_stream.h"
 
@@ -45,8 +46,13 @@ void WriteAndRead(const std::wstring& name, const std::wstring& text) {
 } // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    const std::wstring text = TextOf(data, size);
-    ParseAnything(text);
+    if (size > 0) {
+        const DecodedCharacter decoded = DecodeUtf8({data, size});
+        Require(decoded.size >= 1 && decoded.size <= size, "a character's bytes");
+    }
+    const std::vector<wchar_t> exact = TextOf(data, size);
+    ParseAnything({exact.data(), exact.size()});
+    const std::wstring text(exact.begin(), exact.end());
     const size_t half = text.size() / 2;
     WriteAndRead(text.substr(0, half), text.substr(half));
     return 0;

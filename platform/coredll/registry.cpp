@@ -121,4 +121,15 @@ LONG WINAPI CoreRegEnumValueW(HKEY key, DWORD index, LPWSTR name, LPDWORD nameLe
     });
 }
 
+LONG WINAPI CoreRegQueryInfoKeyW(HKEY key, LPWSTR keyClass, LPDWORD classLength, LPDWORD reserved,
+                                 LPDWORD subkeys, LPDWORD longestSubkey, LPDWORD longestClass,
+                                 LPDWORD values, LPDWORD longestName, LPDWORD longestData,
+                                 LPDWORD securitySize, PFILETIME written) {
+    return Counted(kRegQueryInfoCalls, [&] {
+        return RegQueryInfoKeyW(key, keyClass, classLength, reserved, subkeys, longestSubkey,
+                                longestClass, values, longestName, longestData, securitySize,
+                                written);
+    });
+}
+
 } // extern "C"

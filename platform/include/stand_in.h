@@ -16,7 +16,6 @@ enum StandInCalls : ULONG {
     kRegSetValueCalls = 1U << 7,
     kRegDeleteValueCalls = 1U << 8,
     kRegEnumValueCalls = 1U << 9,
-    kRegistryCalls = (1U << 10) - 1,
     kCreateFileCalls = 1U << 10,
     kReadFileCalls = 1U << 11,
     kWriteFileCalls = 1U << 12,
@@ -25,7 +24,9 @@ enum StandInCalls : ULONG {
     kMoveFileCalls = 1U << 15,
     kCreateDirectoryCalls = 1U << 16,
     kFindFileCalls = 1U << 17, // The first and the next.
-    kFileCalls = (1U << 18) - 1 - kRegistryCalls,
+    kRegQueryInfoCalls = 1U << 18,
+    kRegistryCalls = ((1U << 10) - 1) | kRegQueryInfoCalls,
+    kFileCalls = ((1U << 18) - 1) & ~((1U << 10) - 1),
 };
 
 constexpr UINT kStandInExitCode = 99;

@@ -41,9 +41,8 @@ bool ReadRecord(HANDLE database, CategoryRecord& record) {
     DWORD size = 0;
     const bool found =
         CeReadRecordPropsEx(database, CEDB_ALLOWREALLOC, &count, ids, &buffer, &size, nullptr) != 0;
-    if (found && buffer != nullptr) {
-        record = RecordOf(reinterpret_cast<const CEPROPVAL*>(buffer), count);
-    }
+    record = RecordOf(reinterpret_cast<const CEPROPVAL*>(buffer),
+                      found && buffer != nullptr ? count : WORD{0});
     // The call may leave a buffer behind even when it fails.
     if (buffer != nullptr) LocalFree(buffer);
     return found;
@@ -61,7 +60,8 @@ std::vector<CategoryRecord> ReadCategoriesDatabase() {
     HANDLE database = CeOpenDatabaseEx(&objectStore, &oid, name, 0, CEDB_AUTOINCREMENT, nullptr);
     if (database == INVALID_HANDLE_VALUE) return records;
     const CloseDatabase closes{database};
-    if (CeSeekDatabase(database, CEDB_SEEK_BEGINNING, 0, nullptr) == 0) return records;
+    DWORD index = 0;
+    if (CeSeekDatabase(database, CEDB_SEEK_BEGINNING, 0, &index) == 0) return records;
     for (CategoryRecord record{}; ReadRecord(database, record);) {
         if (!record.name.IsEmpty() && record.number != kNoNumber) records.push_back(record);
     }

@@ -28,12 +28,7 @@ UniqueBitmap LoadCategoryIcon(const WideString& name) {
 }
 
 std::wstring_view NameOf(const std::unique_ptr<CategoryEntry>& category) {
-    return {category->name.CStr(), category->name.Length()};
-}
-
-UniqueKey OpenCategoriesKey() {
-    const GroupKey where = KeyOfGroup(SettingGroup::Categories);
-    return UniqueKey(OpenOrCreateKey(where.root, where.path));
+    return category->name.View();
 }
 
 WideString ValueName(const wchar_t* prefix, const CategoryEntry& category) {
@@ -80,7 +75,7 @@ void CategoryStore::LoadCategories() {
 }
 
 void CategoryStore::LoadCategoryRegistry() {
-    const UniqueKey key = OpenCategoriesKey();
+    const UniqueKey key(OpenGroupKey(SettingGroup::Categories));
     for (const auto& category : categories_) {
         category->colour = ReadNumber(key.Get(), ColourName(*category).CStr(), kNoColour);
     }
@@ -90,7 +85,7 @@ void CategoryStore::LoadCategoryRegistry() {
 }
 
 void CategoryStore::SaveCategoryRegistry() const {
-    const UniqueKey key = OpenCategoriesKey();
+    const UniqueKey key(OpenGroupKey(SettingGroup::Categories));
     for (const auto& category : categories_) {
         WriteNumber(key.Get(), ColourName(*category).CStr(), category->colour, kNoColour);
         WriteNumber(key.Get(), FiltersName(*category).CStr(), category->filters, 0);
@@ -125,11 +120,9 @@ void CategoryStore::ResolveSelections() {
 }
 
 CategorySelection CategoryStore::FindSelection(const WideString& categoryName,
-                                               uint32_t filterIndex) const {
+                                               uint32_t filterIndex) {
     CategorySelection selection;
-    if (!categoryName.IsEmpty()) {
-        selection.category = FindCategory({categoryName.CStr(), categoryName.Length()});
-    }
+    if (!categoryName.IsEmpty()) selection.category = FindCategory(categoryName.View());
     if (selection.category == nullptr) selection.filter = FindFilter(filterIndex);
     return selection;
 }
@@ -141,8 +134,4 @@ CategoryEntry* CategoryStore::FindCategory(std::wstring_view name) const {
 
 FilterEntry* CategoryStore::FindFilter(uint32_t index) {
     return index >= 1 && index <= filters_.size() ? &filters_[index - 1] : nullptr;
-}
-
-const FilterEntry* CategoryStore::FindFilter(uint32_t index) const {
-    return const_cast<CategoryStore*>(this)->FindFilter(index);
 }

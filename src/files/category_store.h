@@ -49,14 +49,13 @@ class CategoryStore {
     void ResolveSelections();
     // The category of exactly that name, else the filter of that index, else neither.
     [[nodiscard]] CategorySelection FindSelection(const WideString& categoryName,
-                                                  uint32_t filterIndex) const;
+                                                  uint32_t filterIndex);
 
     // By name, in the order of the code units.
     [[nodiscard]] const Categories& All() const { return categories_; }
     // Null when there is none. Indexes count from 1.
     [[nodiscard]] CategoryEntry* FindCategory(std::wstring_view name) const;
     [[nodiscard]] FilterEntry* FindFilter(uint32_t index);
-    [[nodiscard]] const FilterEntry* FindFilter(uint32_t index) const;
     [[nodiscard]] const Filters& AllFilters() const { return filters_; }
 
     CategorySelection calendarSelection;

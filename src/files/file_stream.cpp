@@ -18,9 +18,10 @@ bool FileSource::Rewind() {
     return SetFilePointer(file_.Get(), 0, nullptr, FILE_BEGIN) != INVALID_SET_FILE_POINTER;
 }
 
-NewFile::NewFile(const wchar_t* path)
-    : file_(CreateFile(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
-                       nullptr)) {}
+void NewFile::Open(const wchar_t* path) {
+    file_ = FileHandle(
+        CreateFile(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
 
 void NewFile::Write(const uint8_t* bytes, size_t size) {
     DWORD written = 0;
@@ -34,4 +35,42 @@ void NewFile::Write(const uint8_t* bytes, size_t size) {
 bool NewFile::Close() {
     file_.Close();
     return complete_;
+}
+
+ReplacementFile::ReplacementFile(const wchar_t* path)
+    : path_(path), writtenPath_(path), file_(path) {
+    if (file_.IsOpen()) return;
+    writtenPath_.Append(L".new");
+    DeleteFile(writtenPath_.CStr());
+    file_.Open(writtenPath_.CStr());
+}
+
+ReplacementFile::~ReplacementFile() {
+    if (!file_.IsOpen()) return;
+    file_.Close();
+    DeleteFile(writtenPath_.CStr());
+}
+
+void ReplacementFile::Commit() {
+    if (!file_.IsOpen()) return;
+    if (!file_.Close()) {
+        DeleteFile(writtenPath_.CStr());
+    } else if (!(writtenPath_ == path_)) {
+        TakePlace();
+    }
+}
+
+// The platform renames a file only to a name that is free. At every moment one of the two has the
+// name, or can be found under another.
+void ReplacementFile::TakePlace() {
+    WideString old(path_);
+    old.Append(L".old");
+    DeleteFile(old.CStr());
+    if (!MoveFile(path_.CStr(), old.CStr())) {
+        DeleteFile(writtenPath_.CStr());
+    } else if (MoveFile(writtenPath_.CStr(), path_.CStr())) {
+        DeleteFile(old.CStr());
+    } else if (MoveFile(old.CStr(), path_.CStr())) {
+        DeleteFile(writtenPath_.CStr());
+    }
 }

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 #include "files/byte_stream.h"
 #include "shell/services/wide_string.h"
 
@@ -10,7 +12,10 @@ class FileHandle {
   public:
     explicit FileHandle(HANDLE file) : file_(file) {}
     FileHandle(const FileHandle&) = delete;
-    FileHandle& operator=(const FileHandle&) = delete;
+    FileHandle& operator=(FileHandle&& other) noexcept {
+        std::swap(file_, other.file_);
+        return *this;
+    }
     ~FileHandle() { Close(); }
 
     [[nodiscard]] bool IsOpen() const { return file_ != INVALID_HANDLE_VALUE; }
@@ -38,29 +43,38 @@ class FileSource final : public ByteSource {
 // that is not open is dropped.
 class NewFile final : public ByteSink {
   public:
-    explicit NewFile(const wchar_t* path);
+    explicit NewFile(const wchar_t* path) { Open(path); }
 
+    // Once more, after a failure.
+    void Open(const wchar_t* path);
     [[nodiscard]] bool IsOpen() const { return file_.IsOpen(); }
     void Write(const uint8_t* bytes, size_t size) override;
     // Closes the file; false when not all of it was written.
     bool Close();
 
   private:
-    FileHandle file_;
+    FileHandle file_{INVALID_HANDLE_VALUE};
     bool complete_ = true;
 };
 
-// Makes a file by what `write` writes to its sink, in place of one that is there. The old file
-// stays until the new one is complete, and when it does not come about.
-template <typename WriteContent>
-void RewriteFile(const wchar_t* path, WriteContent write) {
-    WideString draft(path);
-    draft.Append(L".new");
-    DeleteFile(draft.CStr());
-    NewFile file(draft.CStr());
-    if (!file.IsOpen()) return;
-    write(static_cast<ByteSink&>(file));
-    const bool complete = file.Close();
-    if (complete) DeleteFile(path);
-    if (!complete || !MoveFile(draft.CStr(), path)) DeleteFile(draft.CStr());
-}
+// A file that takes the place of one that may be there. The old one stays until the new one is
+// complete and committed, and when that does not come about. The new one is written beside it, as
+// "NAME.new", or right away where there is no old one.
+class ReplacementFile final : public ByteSink {
+  public:
+    explicit ReplacementFile(const wchar_t* path);
+    ReplacementFile(const ReplacementFile&) = delete;
+    ReplacementFile& operator=(const ReplacementFile&) = delete;
+    // Without a commit nothing has happened.
+    ~ReplacementFile();
+
+    void Write(const uint8_t* bytes, size_t size) override { file_.Write(bytes, size); }
+    void Commit();
+
+  private:
+    void TakePlace();
+
+    WideString path_;
+    WideString writtenPath_;
+    NewFile file_;
+};

@@ -58,12 +58,14 @@ bool SchemeExists(const wchar_t* name) {
 
 void WriteScheme(const wchar_t* name, const CategoryStore& categories) {
     CreateDirectory(SchemesFolder().CStr(), nullptr);
-    RewriteFile(SchemePath(name, kExtension).CStr(), [&](ByteSink& file) {
+    ReplacementFile file(SchemePath(name, kExtension).CStr());
+    {
         LineWriter lines(file);
         WriteRegistryKeyTree(PathOf(SettingGroup::Colours), lines);
         WriteRegistryKeyTree(PathOf(SettingGroup::Fonts), lines);
         WriteCategoriesSection(categories, lines);
-    });
+    }
+    file.Commit();
 }
 
 SchemeOutcome ReadScheme(const wchar_t* fileName, CategoryStore& categories) {

@@ -16,10 +16,6 @@
 
 namespace {
 
-std::wstring_view ViewOf(const WideString& text) {
-    return {text.CStr(), text.Length()};
-}
-
 // One for the whole tree, so that each level of keys takes next to nothing of a small stack.
 class KeyTreeWriter {
   public:
@@ -30,8 +26,8 @@ class KeyTreeWriter {
         for (DWORD index = 0; WriteValue(key, index); ++index) {
         }
         const size_t length = path_.size();
-        for (DWORD index = 0; SubkeyName(key, index, name_); ++index) {
-            path_.append(L"\\").append(ViewOf(name_));
+        for (DWORD index = 0; SubkeyName(key, index, name_) == ERROR_SUCCESS; ++index) {
+            path_.append(L"\\").append(name_.View());
             const UniqueKey subkey(OpenOrCreateKey(key, name_.CStr()));
             WriteKey(subkey.Get());
             path_.resize(length);
@@ -86,10 +82,10 @@ class Restorer final : public BackupReceiver {
     explicit Restorer(CategoryStore& categories) : categories_(categories) {}
 
     bool BeginKey(std::wstring_view path) override {
-        // The empty path would be the user's whole registry.
-        if (path.empty() || path.front() == L'\\') return false;
         name_.Assign(path.data(), path.size());
-        if (path == kSettingsKey) {
+        // Such a path would be the user's whole registry.
+        if (name_.IsEmpty() || name_.CStr()[0] == L'\\') return false;
+        if (name_ == kSettingsKey) {
             key_.Reset();
             DeleteKeyTree(HKEY_CURRENT_USER, kSettingsKey);
         }
@@ -142,7 +138,7 @@ void WriteRegistryKeyTree(const wchar_t* keyPath, LineWriter& lines) {
 void WriteCategoriesSection(const CategoryStore& categories, LineWriter& lines) {
     lines.Section(kCategoriesSection);
     for (const auto& category : categories.All()) {
-        lines.Text(L"Category", ViewOf(category->name));
+        lines.Text(L"Category", category->name.View());
         lines.Number(L"FiltersFlag", category->filters);
         lines.Number(L"Color", category->colour);
     }
@@ -152,7 +148,7 @@ void WriteFiltersSection(const CategoryStore& categories, LineWriter& lines) {
     lines.Section(kFiltersSection);
     uint32_t index = 0;
     for (const FilterEntry& filter : categories.AllFilters()) {
-        lines.Text(L"FilterName", ViewOf(filter.title));
+        lines.Text(L"FilterName", filter.title.View());
         lines.Number(L"Index", ++index);
         lines.Number(L"VisibleState", filter.visible ? 1 : 0);
         lines.Number(L"IncludeUncategorized", filter.includeUncategorized ? 1 : 0);

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "resource_ids.h"
+#include "settings/setting.h"
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
@@ -16,7 +17,6 @@ constexpr UINT kTabStripVersionMessage = 0x2007;
 constexpr WPARAM kTabStripVersion = 524;
 constexpr int kSampleWidth = 44;
 constexpr int kSampleHeight = 20;
-constexpr COLORREF kNoColour = 0xFFFFFFFF;
 constexpr DWORD kPageStyle = WS_POPUP | WS_VISIBLE | 0x800;
 
 SettingsPage* PageOf(HWND window) {

@@ -5,16 +5,33 @@
 #include "settings/registry_values.h"
 #include "shell/services/handles.h"
 
-bool SubkeyName(HKEY key, DWORD index, WideString& name) {
+LSTATUS SubkeyName(HKEY key, DWORD index, WideString& name) {
     wchar_t buffer[256];
     auto length = static_cast<DWORD>(std::size(buffer));
-    if (RegEnumKeyEx(key, index, buffer, &length, nullptr, nullptr, nullptr, nullptr) !=
-        ERROR_SUCCESS) {
-        return false;
-    }
-    name.Assign(buffer, length);
-    return true;
+    const LSTATUS status =
+        RegEnumKeyEx(key, index, buffer, &length, nullptr, nullptr, nullptr, nullptr);
+    if (status == ERROR_SUCCESS) name.Assign(buffer, length);
+    return status;
 }
+
+namespace {
+
+// From the last value to the first, as with the subkeys below.
+void DeleteValues(HKEY key) {
+    DWORD count = 0;
+    RegQueryInfoKey(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, nullptr,
+                    nullptr, nullptr, nullptr);
+    for (; count > 0; --count) {
+        wchar_t name[256];
+        auto length = static_cast<DWORD>(std::size(name));
+        if (RegEnumValue(key, count - 1, name, &length, nullptr, nullptr, nullptr, nullptr) ==
+            ERROR_SUCCESS) {
+            RegDeleteValue(key, name);
+        }
+    }
+}
+
+} // namespace
 
 bool DeleteKeyTree(HKEY parent, const wchar_t* path) {
     LSTATUS status = RegDeleteKey(parent, path);
@@ -22,6 +39,7 @@ bool DeleteKeyTree(HKEY parent, const wchar_t* path) {
         {
             const UniqueKey key(OpenExistingKey(parent, path));
             if (key) DeleteSubkeys(key.Get());
+            if (key) DeleteValues(key.Get());
         }
         status = RegDeleteKey(parent, path);
     }
@@ -35,7 +53,7 @@ void DeleteSubkeys(HKEY key, const wchar_t* keptName) {
     RegQueryInfoKey(key, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr, nullptr,
                     nullptr, nullptr, nullptr);
     for (WideString name; count > 0; --count) {
-        if (!SubkeyName(key, count - 1, name)) continue;
+        if (SubkeyName(key, count - 1, name) != ERROR_SUCCESS) continue;
         if (keptName != nullptr && name == keptName) continue;
         DeleteKeyTree(key, name.CStr());
     }

@@ -38,8 +38,8 @@ GroupKey KeyOfGroup(SettingGroup group) {
     return {place.ofMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER, place.path};
 }
 
-HKEY OpenGroupKey(const Setting& setting) {
-    const GroupKey where = KeyOfGroup(setting.group);
+HKEY OpenGroupKey(SettingGroup group) {
+    const GroupKey where = KeyOfGroup(group);
     return where.path == nullptr ? nullptr : OpenOrCreateKey(where.root, where.path);
 }
 

@@ -49,9 +49,9 @@ struct Setting {
     void Bind(const wchar_t* valueName, SettingGroup settingGroup);
 };
 
-// Opens, creating it where needed, the key of a setting's group; null on failure. The caller
+// Opens, creating it where needed, the key of a group; null on failure. The caller
 // closes.
-[[nodiscard]] HKEY OpenGroupKey(const Setting& setting);
+[[nodiscard]] HKEY OpenGroupKey(SettingGroup group);
 
 // In all loads and saves: a null key makes the operation open its group's key itself; a key that
 // is passed is used and left open. TakeDefault is the load for a key that is known not to open.
@@ -99,7 +99,7 @@ struct BitsSetting : Setting {
 class WorkingKey {
   public:
     WorkingKey(HKEY callersKey, const Setting& setting)
-        : opened_(callersKey == nullptr ? OpenGroupKey(setting) : nullptr),
+        : opened_(callersKey == nullptr ? OpenGroupKey(setting.group) : nullptr),
           key_(callersKey == nullptr ? opened_.Get() : callersKey) {}
     // Null when the group's key cannot be opened.
     [[nodiscard]] HKEY Get() const { return key_; }

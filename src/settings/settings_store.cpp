@@ -42,18 +42,13 @@ constexpr DwordSetting SettingsStore::*kTitleOrder[] = {
     &SettingsStore::CalTitlesOrder4, &SettingsStore::CalTitlesOrder5,
 };
 
-HKEY OpenKeyOfGroup(SettingGroup group) {
-    const GroupKey where = KeyOfGroup(group);
-    return OpenOrCreateKey(where.root, where.path);
-}
-
 void LoadTable(const SettingTable& table, SettingsStore& store) {
-    const UniqueKey key(OpenKeyOfGroup(table.group));
+    const UniqueKey key(OpenGroupKey(table.group));
     table.Load(store, key.Get());
 }
 
 void SaveTable(const SettingTable& table, const SettingsStore& store) {
-    const UniqueKey key(OpenKeyOfGroup(table.group));
+    const UniqueKey key(OpenGroupKey(table.group));
     table.Save(store, key.Get());
 }
 
@@ -133,7 +128,7 @@ void SettingsStore::LoadLanguageLibrary(HMODULE& languageLibrary) const {
 }
 
 void SettingsStore::LoadTabs(HMODULE languageLibrary) {
-    const UniqueKey key(OpenKeyOfGroup(SettingGroup::Tabs));
+    const UniqueKey key(OpenGroupKey(SettingGroup::Tabs));
     kTabModeTable.Load(*this, key.Get());
     kOwnTabTable.Load(*this, key.Get());
     tabs.Clear();
@@ -218,7 +213,7 @@ void SettingsStore::RepairBeforeSave() {
 }
 
 void SettingsStore::SaveTabs() {
-    const UniqueKey key(OpenKeyOfGroup(SettingGroup::Tabs));
+    const UniqueKey key(OpenGroupKey(SettingGroup::Tabs));
     tabs.DeleteHosted(key.Get());
     kTabModeTable.Save(*this, key.Get());
     CopyOwnTabsToSettings();

@@ -29,13 +29,13 @@ bool ComesBefore(const std::unique_ptr<TabDefinition>& left,
     return left->order < right->order;
 }
 
-std::unique_ptr<TabDefinition> ReadHosted(HKEY tabKey, WideString name) {
-    const UniqueKey key(OpenExistingKey(tabKey, name.CStr()));
+// A null key gives the defaults.
+std::unique_ptr<TabDefinition> ReadHosted(HKEY key, WideString name) {
     auto tab = std::make_unique<TabDefinition>();
-    tab->order = ReadNumber(key.Get(), kOrder, TabList::kHostedOrder);
-    tab->enabled = ReadNumber(key.Get(), kEnabled, 0);
+    tab->order = ReadNumber(key, kOrder, TabList::kHostedOrder);
+    tab->enabled = ReadNumber(key, kEnabled, 0);
     for (const TabText& text : kTexts)
-        ReadText(key.Get(), text.valueName, (*tab).*text.text);
+        ReadText(key, text.valueName, (*tab).*text.text);
     tab->name = std::move(name);
     return tab;
 }
@@ -87,12 +87,18 @@ const TabDefinition* TabList::FindType(TabType type) const {
 
 // Sorted once at the end, which is the same as inserting one by one and needs no shifting.
 void TabList::LoadHosted(HKEY tabKey) {
-    hostedTabsAreKnown_ = tabKey != nullptr;
     WideString name;
-    for (DWORD index = 0; tabKey != nullptr && SubkeyName(tabKey, index, name); ++index) {
+    LSTATUS status = ERROR_INVALID_HANDLE;
+    bool allRead = true;
+    for (DWORD index = 0; tabKey != nullptr; ++index) {
+        status = SubkeyName(tabKey, index, name);
+        if (status != ERROR_SUCCESS) break;
         if (name == kForeignSubkey) continue;
-        entries_.push_back(ReadHosted(tabKey, name));
+        const UniqueKey key(OpenExistingKey(tabKey, name.CStr()));
+        allRead = allRead && static_cast<bool>(key);
+        entries_.push_back(ReadHosted(key.Get(), name));
     }
+    hostedTabsAreKnown_ = allRead && status == ERROR_NO_MORE_ITEMS;
     Sort();
 }
 

@@ -52,8 +52,8 @@ class TabList {
     [[nodiscard]] const TabDefinition* FindNumber(uint32_t number) const;
     [[nodiscard]] const TabDefinition* FindType(TabType type) const;
 
-    // The plug-in tabs: one subkey each of the tab key. A null key holds none and takes none; tabs
-    // whose key could not be opened at the load are left alone by the other two.
+    // The plug-in tabs: one subkey each of the tab key. A null key holds none and takes none. Where
+    // the load could not read them all, the other two leave the stored ones alone.
     void LoadHosted(HKEY tabKey);
     // Writes every value of every plug-in tab, in the list's order, changed or not.
     void SaveHosted(HKEY tabKey) const;

@@ -22,7 +22,7 @@ std::vector<WideString> TodayPlugins() {
     std::vector<WideString> plugins;
     const UniqueKey items(OpenExistingKey(HKEY_LOCAL_MACHINE, kItems));
     WideString name;
-    for (DWORD index = 0; items && SubkeyName(items.Get(), index, name); ++index) {
+    for (DWORD index = 0; items && SubkeyName(items.Get(), index, name) == ERROR_SUCCESS; ++index) {
         const UniqueKey item(OpenExistingKey(items.Get(), name.CStr()));
         if (ReadNumber(item.Get(), L"Type", 0) == kPluginType && name != kDashboard)
             plugins.push_back(name);

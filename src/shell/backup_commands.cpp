@@ -32,6 +32,12 @@ void ShowExported(HWND owner, const WideString& path) {
     MessageBox(owner, text.CStr(), LanguageText(IDS_BACKUP_EXPORTED_CAPTION).CStr(), MB_OK);
 }
 
+void WriteBackupFile(const WideString& path) {
+    ReplacementFile file(path.CStr());
+    WriteBackup(categoryStore, file);
+    file.Commit();
+}
+
 bool ReadBackupFile(const WideString& path) {
     FileSource file(path.CStr());
     return file.IsOpen() && ReadBackup(file, categoryStore);
@@ -51,7 +57,7 @@ void ExportSettingsBackup(HWND ownerWindow) {
     const FileDialogText text{L"Export OV Settings", kDescription, kExtension, name.CStr()};
     WideString path;
     if (!SelectFileToSave(ownerWindow, text, path)) return;
-    RewriteFile(path.CStr(), [](ByteSink& file) { WriteBackup(categoryStore, file); });
+    WriteBackupFile(path);
     ShowExported(ownerWindow, path);
 }
 

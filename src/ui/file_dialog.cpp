@@ -23,7 +23,7 @@ constexpr int kLabelDrop = 2; // A label stands this much lower than what it nam
 // A window lower than this, as in landscape above the input panel, has no room for the type.
 constexpr int kLowWindow = 150;
 
-// Where the next dialog starts: the folder that a file was last chosen in.
+// Where the next dialog starts: the folder that was shown when a file was last chosen.
 WideString startFolder(L"\\My Documents");
 
 bool IsFile(const wchar_t* path) {

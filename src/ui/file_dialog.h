@@ -13,8 +13,8 @@ struct FileDialogText {
 };
 
 // Let the user choose a file on a full-screen window: its folder by walking through them, its name
-// by typing or from a list of the files with the extension. Both start in the folder that a file
-// was last chosen in, at first "\My Documents" or else the root.
+// by typing or from a list of the files with the extension. Both start in the folder that
+// was shown when a file was last chosen, at first "\My Documents" or else the root.
 //
 // `path` receives the folder, the name and, unless the name has it, the extension. A name may hold
 // folders of its own, parted by backslashes. False, with `path` untouched, when the user cancels.

@@ -34,7 +34,7 @@ class OptionDetailPanel {
     [[nodiscard]] WideString Text() const;
 
     // A click on one of the panel's buttons: clearing is done here and true the answer.
-    bool OnButton(UINT id) const;
+    [[nodiscard]] bool OnButton(UINT id) const;
     // The button that browses for a path, and the edit field that shows the path; what is opened is
     // the page's business.
     [[nodiscard]] UINT BrowseId() const;

@@ -77,6 +77,47 @@ TEST_F(Outside, ChangesByTapsAreSavedAndTold) {
     EXPECT_FALSE(StoredNumber(L"GoofyMode"));
 }
 
+// By keys alone: the right soft key's menu, the name as it is offered, Enter.
+void RunBackupCommand(const Program& program, int entriesDown, const wchar_t* dialogClass) {
+    Press(VK_F2);
+    Sleep(200);
+    for (int i = 0; i < entriesDown; ++i)
+        Press(VK_DOWN);
+    Press(VK_RETURN);
+    HWND dialog = program.WaitForWindow(dialogClass);
+    ASSERT_NE(dialog, nullptr);
+    if (entriesDown > 0) {
+        // The list of the dialog that opens files has the focus: its last row is the backup.
+        Press(VK_END);
+    }
+    Press(VK_RETURN);
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
+    HWND message = program.WaitForMessageBox();
+    ASSERT_NE(message, nullptr);
+    Press(VK_RETURN);
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(message); }));
+}
+
+TEST_F(Outside, ABackupBringsEverythingBack) {
+    SetNumber(HKEY_CURRENT_USER, kSettingsKey, L"OnClick", 2);
+    SetText(HKEY_CURRENT_USER, std::wstring(kSettingsKey) + L"\\Notes\\Folders", L"0", L"\\My");
+    Program program;
+    ASSERT_TRUE(program.WaitForPageList());
+    RunBackupCommand(program, 0, L"SaveFileWin");
+    EXPECT_TRUE(program.IsRunning());
+    const RegistryTree before = SettingsTree();
+    DeleteSettings();
+    SetNumber(HKEY_CURRENT_USER, kSettingsKey, L"GoofyMode", 1);
+    DashboardListener dashboard;
+    RunBackupCommand(program, 1, L"LoadFileWin");
+    EXPECT_EQ(program.WaitForExit(), 0u);
+    EXPECT_TRUE(WaitUntil([&] {
+        dashboard.Listen();
+        return dashboard.timesTold == 1;
+    }));
+    EXPECT_EQ(SettingsTree(), before);
+}
+
 TEST_F(Outside, CancelAsksFirst) {
     DashboardListener dashboard;
     Program program;

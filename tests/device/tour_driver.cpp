@@ -164,6 +164,36 @@ bool ShowPage(const Program& program, HWND main, int row) {
     return WaitUntil([page] { return !IsWindow(page); });
 }
 
+// The file dialogs, and what is said of a file that is no backup.
+void ShowBackups(const Program& program, HWND main) {
+    PostMessage(main, WM_COMMAND, IDC_EXPORT_BACKUP, 0);
+    if (HWND dialog = program.WaitForWindow(L"SaveFileWin")) {
+        Show("dialog-save-file");
+        PostMessage(dialog, WM_COMMAND, IDOK, 0);
+        HWND message = program.WaitForMessageBox();
+        Show("message-exported");
+        PostMessage(message, WM_COMMAND, IDOK, 0);
+        WaitUntil([&] { return !IsWindow(dialog); });
+    }
+    PostMessage(main, WM_COMMAND, IDC_IMPORT_BACKUP, 0);
+    if (HWND dialog = program.WaitForWindow(L"LoadFileWin")) {
+        Show("dialog-open-file");
+        PostMessage(dialog, WM_COMMAND, IDOK, 0);
+        HWND refusal = program.WaitForMessageBox();
+        Show("message-file-name");
+        PostMessage(refusal, WM_COMMAND, IDOK, 0);
+        WaitUntil([&] { return !IsWindow(refusal); });
+        constexpr int kNameBox = 111;
+        SendMessage(GetDlgItem(dialog, kNameBox), WM_SETTEXT, 0,
+                    reinterpret_cast<LPARAM>(L"No such file"));
+        PostMessage(dialog, WM_COMMAND, IDOK, 0);
+        HWND message = program.WaitForMessageBox();
+        Show("message-not-imported");
+        PostMessage(message, WM_COMMAND, IDOK, 0);
+        WaitUntil([&] { return !IsWindow(message); });
+    }
+}
+
 void ShowMenu(WORD softKey, const char* name) {
     Press(softKey);
     Show(name);
@@ -182,6 +212,7 @@ int main() {
     for (int row = 0; row < kPageCount; ++row) {
         if (!ShowPage(program, main, row)) return 1;
     }
+    ShowBackups(program, main);
     PostMessage(main, WM_COMMAND, IDC_ABOUT, 0);
     if (HWND about = program.WaitForWindow(L"AboutWin")) {
         Show("dialog-about");

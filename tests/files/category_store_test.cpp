@@ -109,8 +109,10 @@ TEST_F(CategoryStoreTest, FindsSelections) {
 TEST_F(CategoryStoreTest, KeepsFiltersInTheirFile) {
     Load();
     EXPECT_STREQ(store_.FindFilter(32)->title.CStr(), L"Filter 32") << "no file";
-    store_.FindFilter(2)->title = L"Work";
-    store_.SaveFilterFile();
+    for (const wchar_t* title : {L"Home", L"Work"}) {
+        store_.FindFilter(2)->title = title;
+        store_.SaveFilterFile();
+    }
     CategoryStore other;
     other.LoadCategoryStore();
     EXPECT_STREQ(other.FindFilter(2)->title.CStr(), L"Work");

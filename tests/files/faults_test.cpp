@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 #include <string>
 
 #include "files/category_store.h"
@@ -13,20 +14,13 @@
 #include "tests/settings/every_setting.h"
 #include "tests/settings/store_fixture.h"
 #include "tests/support/install_folder.h"
+#include "tests/support/resource_count.h"
 
 namespace {
 
 constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
 // A key that the platform fails to close stays open, whatever the program does.
 constexpr ULONG kAllCalls = (kRegistryCalls | kFileCalls) & ~kRegCloseKeyCalls;
-
-// A handle's value tells how many are open below it.
-size_t LowestFreeHandle() {
-    HANDLE event = CreateEvent(nullptr, FALSE, FALSE, nullptr);
-    const auto value = reinterpret_cast<size_t>(event);
-    CloseHandle(event);
-    return value;
-}
 
 class FaultsTest : public StoreFixture {
   protected:
@@ -69,7 +63,9 @@ class FaultsTest : public StoreFixture {
     }
 
     void Export() const {
-        RewriteFile(backup_.c_str(), [this](ByteSink& file) { WriteBackup(store_, file); });
+        ReplacementFile file(backup_.c_str());
+        WriteBackup(store_, file);
+        file.Commit();
     }
     bool Import() {
         FileSource file(backup_.c_str());
@@ -81,7 +77,13 @@ class FaultsTest : public StoreFixture {
     std::wstring backup_;
 };
 
+// The values of one key, or one value, may be the defaults; all others are those stored.
 TEST_F(FaultsTest, LoadingGivesWhatItCanRead) {
+    ForEachRow([](const SettingTable&, const SettingRow& row) {
+        std::visit(SetOther{settingsStore}, row.what);
+    });
+    settingsStore.Save();
+    const auto whole = LoadStore();
     FailEachCall(
         kAllCalls, [] {},
         [this] {
@@ -89,29 +91,45 @@ TEST_F(FaultsTest, LoadingGivesWhatItCanRead) {
             store_.LoadCategoryStore();
             languageLibrary_.Reset(); // Another one may be found when a path cannot be read.
         },
-        [this](ULONG nth) {
+        [&](ULONG nth) {
+            std::set<const SettingTable*> keys;
+            size_t values = 0;
+            ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+                if (ShownIn(settingsStore, row) == ShownIn(*whole, row)) return;
+                keys.insert(&table);
+                ++values;
+            });
+            // The key of the tabs has three tables; defaults of texts may hang on other keys.
+            EXPECT_TRUE(values <= 2 || keys.size() <= 3) << nth;
             EXPECT_EQ(store_.All().size(), 2U) << nth;
-            EXPECT_EQ(settingsStore.NoteZoom.value, 100U) << nth;
         });
 }
 
+// One value, or one key, may be the old one.
 TEST_F(FaultsTest, SavingDropsWhatItCannotWrite) {
     const auto prepare = [] {
+        RegDeleteKey(HKEY_CURRENT_USER, kRoot);
         ForEachRow([](const SettingTable&, const SettingRow& row) {
             std::visit(SetOther{settingsStore}, row.what);
         });
-        SetUserNumber(kRoot, L"OnClick", 0);
-        SetUserNumber(kTasks, L"TsksDateFrmt", 0);
     };
+    RegistryTree whole;
     const auto work = [this] {
         settingsStore.Save();
         store_.SaveCategoryRegistry();
         store_.SaveFilterFile();
     };
-    FailEachCall(kAllCalls, prepare, work, [](ULONG nth) {
-        const bool oneOfTwoKeys =
-            GetUserNumber(kRoot, L"OnClick") == 1U || GetUserNumber(kTasks, L"TsksDateFrmt") == 4U;
-        EXPECT_TRUE(oneOfTwoKeys) << nth;
+    FailEachCall(kAllCalls, prepare, work, [&](ULONG nth) {
+        const RegistryTree saved = GetTree(HKEY_CURRENT_USER);
+        if (nth == 0) whole = saved;
+        std::set<std::wstring> keys;
+        size_t missing = 0;
+        for (const auto& [path, value] : whole) {
+            if (saved.contains(path)) continue;
+            keys.insert(path.substr(0, path.rfind(L'\\')));
+            ++missing;
+        }
+        EXPECT_TRUE(missing <= 1 || keys.size() <= 2) << nth;
     });
 }
 
@@ -125,13 +143,11 @@ TEST_F(FaultsTest, ExportingKeepsTheOldBackupUntilTheNewOneIsComplete) {
         EXPECT_TRUE(read->ends_with("\"Index\"=dword:32\r\n\"VisibleState\"=dword:1\r\n"
                                     "\"IncludeUncategorized\"=dword:0\r\n"))
             << nth;
-        EXPECT_FALSE(folder_->Has(L"Backup.ovsb.new")) << nth;
     };
-    const ULONG files = kCreateFileCalls | kWriteFileCalls | kDeleteFileCalls;
     FailEachCall(
         kAllCalls & kRegistryCalls, [] {}, [this] { Export(); }, check);
     FailEachCall(
-        files, [] {}, [this] { Export(); }, check);
+        kFileCalls, [] {}, [this] { Export(); }, check);
     EXPECT_EQ(folder_->Read(L"Backup.ovsb"), complete);
 }
 
@@ -192,7 +208,7 @@ TEST(BatteryTest, DISABLED_SavesUntilItRunsOut) {
     ForEachRow([](const SettingTable&, const SettingRow& row) {
         std::visit(SetOther{settingsStore}, row.what);
     });
-    StandInExitAtCall(kRegSetValueCalls, std::stoul(nth));
+    StandInExitAtCall(kRegSetValueCalls | kRegDeleteKeyCalls, std::stoul(nth));
     settingsStore.Save();
     FAIL() << "it goes on without power";
 }
@@ -239,7 +255,6 @@ TEST_F(FaultsTest, WhatAnInterruptedSaveLeavesLoads) {
             const std::wstring shown = ShownIn(*store, row);
             EXPECT_TRUE(shown == ShownIn(*before, row) || shown == ShownIn(*changed, row)) << shown;
         });
-        EXPECT_GE(store->tabs.All().size(), 6U);
     }
     EXPECT_EQ(GetUserNumber(kTasks, L"TsksDateFrmt"), 4U) << "the last run came that far";
 }

@@ -132,8 +132,9 @@ TEST_F(SettingsBackupTest, RestoresSectionBySection) {
     EXPECT_EQ(GetUserNumber(kCalendar, L"kept"), 1U) << "refused before anything is done";
 
     // The user's own registry has no name here, and is left alone.
-    for (const char* path : {"", "\\", "\\Software\\Teskel"}) {
-        EXPECT_FALSE(Restore("\n[" + std::string(path) + "]\n\"n\"=dword:2\n")) << path;
+    for (const std::string& path : {std::string(), std::string(1, '\0'), std::string("\\"),
+                                    std::string("\\Software\\Teskel")}) {
+        EXPECT_FALSE(Restore("\n[" + path + "]\n\"n\"=dword:2\n")) << path;
     }
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, L"", L"n"));
 

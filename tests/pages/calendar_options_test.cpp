@@ -117,18 +117,18 @@ int TabOfList(int list) {
 TEST_F(CalendarOptionsTest, EveryOptionShowsAndStoresItsOwnSetting) {
     settingsStore.dHeightLimit.Set(2000); // Enough for the pinned month.
     const std::vector<OptionCase> cases = OptionCases();
-    Open();
+    OpenAt(0);
     for (const OptionCase& option : cases) {
         for (const OptionCase& other : cases)
             (settingsStore.*other.setting)
                 .Set(other.setting == option.setting ? option.stored : 99);
-        GoTo(TabOfList(option.list));
+        ShowTab(TabOfList(option.list));
         Select(option.list, option.row);
         EXPECT_TRUE(IsShown(kTip)) << option.list << " " << option.row;
         EXPECT_NE(IsShown(kBox), IsShown(kCombo)) << option.list << " " << option.row;
         EXPECT_EQ(Shown(), option.shown) << option.list << " " << option.row;
         Change(option.chosen);
-        GoTo(0);
+        ShowTab(0);
         for (const OptionCase& other : cases) {
             EXPECT_EQ((settingsStore.*other.setting).value,
                       other.setting == option.setting ? option.saved : 99U)
@@ -137,34 +137,10 @@ TEST_F(CalendarOptionsTest, EveryOptionShowsAndStoresItsOwnSetting) {
     }
 }
 
-// The rows stand in the order of their options, and each list is complete.
-TEST_F(CalendarOptionsTest, ListsEveryOption) {
-    Open();
-    const struct {
-        int list;
-        int rows;
-        UINT last;
-    } lists[] = {{kTaskList, 13, IDS_CALENDAR_TASKS_CONFIRM},
-                 {kDayList, 16, IDS_CALENDAR_DAYS_LINES_WIDTH},
-                 {kMonthList, 10, IDS_CALENDAR_MONTH_PINNED},
-                 {kMailList, 7, IDS_CALENDAR_MAIL_COUNTER},
-                 {kMiscellaneousList, 7, IDS_CALENDAR_MISC_ORDER}};
-    for (const auto& list : lists) {
-        ASSERT_EQ(RowCount(Control(list.list)), list.rows);
-        wchar_t text[128] = L"";
-        LVITEM item{};
-        item.pszText = text;
-        item.cchTextMax = 128;
-        SendMessage(Control(list.list), LVM_GETITEMTEXT, static_cast<WPARAM>(list.rows - 1),
-                    reinterpret_cast<LPARAM>(&item));
-        EXPECT_STREQ(text, LanguageText(list.last).CStr());
-    }
-}
-
 TEST_F(CalendarOptionsTest, StoresAnOptionOnceWhenItLosesTheSelection) {
     settingsStore.IncldTasksInCR.Set(1);
     settingsStore.TasksSubsortOnCal.Set(2);
-    Open(2);
+    OpenAt(2);
     EXPECT_FALSE(IsShown(kTip)) << "a list is entered with nothing selected";
     Select(kTaskList, 0);
     Change(0);
@@ -172,18 +148,18 @@ TEST_F(CalendarOptionsTest, StoresAnOptionOnceWhenItLosesTheSelection) {
     Select(kTaskList, 7);
     EXPECT_EQ(settingsStore.IncldTasksInCR.value, 0u);
     Change(5);
-    GoTo(3);
+    ShowTab(3);
     EXPECT_EQ(settingsStore.TasksSubsortOnCal.value, 5u);
     EXPECT_FALSE(IsShown(kTip));
     EXPECT_FALSE(IsShown(kCombo));
     // Back and away again: the panel now holds another option's value, which is none of this one's.
     Select(kDayList, 3);
     Change(1);
-    GoTo(2);
+    ShowTab(2);
     EXPECT_EQ(SelectedRow(Control(kTaskList)), -1);
     EXPECT_EQ(FocusedRow(Control(kTaskList)), -1);
     settingsStore.TasksSubsortOnCal.Set(4);
-    GoTo(3);
+    ShowTab(3);
     EXPECT_EQ(settingsStore.TasksSubsortOnCal.value, 4u);
     // The page may be closed with an option selected.
     Select(kDayList, 3);
@@ -198,7 +174,7 @@ std::wstring EntriesOfOption(HWND window, int list, int row) {
 }
 
 TEST_F(CalendarOptionsTest, OffersSamplesOfDatesAndTimes) {
-    Open(2);
+    OpenAt(2);
     SYSTEMTIME today;
     GetLocalTime(&today);
     const std::wstring month = std::to_wstring(today.wMonth);
@@ -208,7 +184,7 @@ TEST_F(CalendarOptionsTest, OffersSamplesOfDatesAndTimes) {
     EXPECT_EQ(dueDates.substr(dueDates.find(L'|')),
               L"|" + month + L"/" + day + L"/" + year + L"|" + day + L"/" + month + L"/" + year +
                   L"|" + month + L"/" + day + L"|" + day + L"/" + month);
-    GoTo(3);
+    ShowTab(3);
     const std::wstring titles = EntriesOfOption(window_, kDayList, 0);
     EXPECT_EQ(std::count(titles.begin(), titles.end(), L'|'), 6);
     const auto twoDigits = [](const std::wstring& number) {
@@ -225,7 +201,7 @@ TEST_F(CalendarOptionsTest, OffersSamplesOfDatesAndTimes) {
     EXPECT_EQ(std::count(hours.begin(), hours.end(), L'|'), 18);
     EXPECT_EQ(hours.find(L"12:00 AM|1:00 AM|2:00 AM|"), 0u);
     EXPECT_EQ(hours.substr(hours.rfind(L'|')), L"|6:00 PM");
-    GoTo(5);
+    ShowTab(5);
     EXPECT_EQ(EntriesOfOption(window_, kMonthList, 1), twoDigits(month) + L"/" + twoDigits(day) +
                                                            L"|" + twoDigits(day) + L"/" +
                                                            twoDigits(month));
@@ -236,7 +212,7 @@ TEST_F(CalendarOptionsTest, OffersSamplesOfDatesAndTimes) {
 TEST_F(CalendarOptionsTest, WritesTheEndOfTheDayByTheClock) {
     for (const bool isTwelveHours : {true, false}) {
         settingsStore.twelveHourClock = isTwelveHours;
-        Open(8);
+        OpenAt(8);
         EXPECT_EQ(EntriesOfOption(window_, kMiscellaneousList, 2),
                   isTwelveHours ? L"0:00 AM|1:00 AM|2:00 AM|3:00 AM|4:00 AM|5:00 AM|6:00 AM|7:00 "
                                   L"AM|8:00 AM"
@@ -248,7 +224,7 @@ TEST_F(CalendarOptionsTest, WritesTheEndOfTheDayByTheClock) {
 TEST_F(CalendarOptionsTest, EditsPathAndText) {
     settingsStore.MailCustomInboxStr.Set(L"\\Mail.exe");
     settingsStore.CustomDayttlFrmtDefault.Set(L"ddd d");
-    Open(6);
+    OpenAt(6);
     Select(kMailList, 4);
     EXPECT_TRUE(IsShown(kPath));
     EXPECT_EQ(TextOf(Control(kPath)), L"\\Mail.exe");
@@ -268,12 +244,12 @@ TEST_F(CalendarOptionsTest, EditsPathAndText) {
     EXPECT_EQ(title, L"Custom Mail App.");
     const std::wstring chosen = TextOf(Control(kPath));
     EXPECT_EQ(chosen.substr(chosen.rfind(L'\\')), L"\\Own.exe");
-    GoTo(7);
+    ShowTab(7);
     EXPECT_EQ(settingsStore.MailCustomInboxStr.value.CStr(), chosen);
-    GoTo(6);
+    ShowTab(6);
     Select(kMailList, 4);
     Tap(window_, kPathClear);
-    GoTo(8);
+    ShowTab(8);
     EXPECT_TRUE(settingsStore.MailCustomInboxStr.value.IsEmpty());
     Select(kMiscellaneousList, 5);
     EXPECT_EQ(TextOf(Control(kText)), L"ddd d");
@@ -299,7 +275,7 @@ TEST_F(CalendarOptionsTest, OrdersTheTitles) {
     const uint32_t stored[] = {5, 5, 9, 0, 1, 4}; // A repeated number stays, a wrong one goes.
     for (size_t i = 0; i < 6; ++i)
         (settingsStore.*kPlaces[i]).Set(stored[i]);
-    Open(8);
+    OpenAt(8);
     EXPECT_FALSE(IsShown(kTitles));
     Select(kMiscellaneousList, 6);
     for (const int id : {kTitles, kUp, kDown})
@@ -328,7 +304,7 @@ TEST_F(CalendarOptionsTest, OrdersTheTitles) {
 TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
     const int needed = ScaleY(200);
     settingsStore.dHeightLimit.Set(static_cast<uint32_t>(needed - 1));
-    Open(5);
+    OpenAt(5);
     for (const bool byClosing : {false, true}) {
         settingsStore.PinnedMonthlyClr.Set(1);
         Select(kMonthList, 9);
@@ -345,10 +321,10 @@ TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
         EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
     }
     settingsStore.dHeightLimit.Set(static_cast<uint32_t>(needed));
-    Open(5);
+    OpenAt(5);
     Select(kMonthList, 9);
     Change(1);
-    GoTo(6);
+    ShowTab(6);
     EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 1u);
 }
 
@@ -356,7 +332,7 @@ TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
 TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
     settingsStore.dHeightLimit.Set(0);
     settingsStore.dNumOfDays.Set(12);
-    Open(5);
+    OpenAt(5);
     Select(kMonthList, 9);
     Change(1);
     static HWND mainWindow;

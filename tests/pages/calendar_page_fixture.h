@@ -1,18 +1,12 @@
+// The Calendar page with the installed libraries. Its tests set the store's numbers themselves.
 #pragma once
-
-#include <windows.h>
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <string>
 
-#include "settings/settings_store.h"
-#include "shell/page_factory.h"
-#include "shell/services/application.h"
-#include "shell/services/scaling.h"
-#include "tests/support/registry_fixture.h"
-#include "tests/support/window_support.h"
+#include "tests/support/page_fixture.h"
 #include "ui/list_items.h"
 
 using Number = DwordSetting SettingsStore::*;
@@ -23,48 +17,38 @@ inline constexpr int kMonthList = 1232;
 inline constexpr int kCombo = 1242;
 inline constexpr int kBox = 1243;
 
-// The page over a main window of the screen's width, with the installed libraries.
-class CalendarPageFixture : public RegistryFixture {
+class CalendarPageFixture : public PageFixture {
   protected:
+    CalendarPageFixture() : PageFixture(1) {}
+
     void SetUp() override {
-        RegistryFixture::SetUp();
-        application.instance = GetModuleHandle(nullptr);
-        SetText(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Orvane", L"ProgramFiles",
-                L"\\Program Files");
-        application.displayLibrary = LoadLibrary(L"\\Program Files\\Teskel\\Orvane\\LowDpiRes.dll");
+        PageFixture::SetUp();
+        const wchar_t* library = Scale(1) > 1 ? L"HighDpiRes.dll" : L"LowDpiRes.dll";
+        application.displayLibrary =
+            LoadLibrary((std::wstring(L"\\Program Files\\Teskel\\Orvane\\") + library).c_str());
         LOGFONT font{};
         font.lfHeight = Scale(12);
-        lstrcpy(font.lfFaceName, L"Tahoma");
+        wcscpy(font.lfFaceName, L"Tahoma");
         application.normalFont = CreateFontIndirect(&font);
-        owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, ScaleY(26), Scale(240),
-                                ScaleY(268), nullptr, nullptr, application.instance, nullptr);
         settingsStore.Load(application.languageLibrary);
     }
 
     void TearDown() override {
         if (page_) Close();
-        DestroyWindow(owner_);
         DeleteObject(application.normalFont);
         FreeLibrary(application.displayLibrary);
-        FreeLibrary(application.languageLibrary);
         application.normalFont = nullptr;
-        application.displayLibrary = application.languageLibrary = nullptr;
+        application.displayLibrary = nullptr;
         DeleteFile(kUtility);
-        RegistryFixture::TearDown();
+        PageFixture::TearDown();
     }
 
-    void Open(int tab = 0) {
+    // From the store as it is.
+    void OpenAt(int tab) {
         page_.reset(CreatePage(owner_, 1));
         ASSERT_TRUE(page_ && page_->hwnd);
         window_ = page_->hwnd;
-        if (tab) GoTo(tab);
-    }
-    void Close() {
-        ClosePage(*page_);
-        page_.reset();
-    }
-    void GoTo(int tab) {
-        SendMessage(page_->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+        ShowTab(tab);
     }
 
     HWND Control(int id) const { return GetDlgItem(window_, id); }
@@ -84,7 +68,5 @@ class CalendarPageFixture : public RegistryFixture {
     }
     void Select(int list, int row) { SelectRow(Control(list), row); }
 
-    HWND owner_ = nullptr;
     HWND window_ = nullptr;
-    std::unique_ptr<SettingsPage> page_;
 };

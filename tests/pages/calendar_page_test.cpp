@@ -46,7 +46,7 @@ TEST_F(CalendarPageTest, EveryFormControlShowsAndSavesItsOwnSetting) {
     for (const FormCase& changed : kFormCases) {
         for (const FormCase& other : kFormCases)
             (settingsStore.*other.setting).Set(other.stored);
-        Open();
+        OpenAt(0);
         const auto message = static_cast<UINT>(changed.isCombo ? CB_GETCURSEL : BM_GETCHECK);
         EXPECT_EQ(SendMessage(Control(changed.id), message, 0, 0),
                   static_cast<LRESULT>(changed.stored));
@@ -65,11 +65,11 @@ TEST_F(CalendarPageTest, ShowsNumbersThatItDoesNotOffer) {
     settingsStore.dNumOfDays.Set(45);
     settingsStore.Conflicting.Set(5);
     settingsStore.MonthlyPopIconsSize.Set(static_cast<uint32_t>(Scale(14) + 1));
-    Open();
+    OpenAt(0);
     EXPECT_EQ(SendMessage(Control(kDays), CB_GETCOUNT, 0, 0), 31);
     EXPECT_EQ(TextOf(Control(kDays)), L"45");
     EXPECT_EQ(Chosen(kConflicts), -1);
-    GoTo(5);
+    ShowTab(5);
     Select(kMonthList, 7);
     EXPECT_EQ(Chosen(kCombo), 0);
     Close();
@@ -77,11 +77,11 @@ TEST_F(CalendarPageTest, ShowsNumbersThatItDoesNotOffer) {
     EXPECT_EQ(settingsStore.Conflicting.value, 0xFFFFFFFFu);
     EXPECT_EQ(settingsStore.MonthlyPopIconsSize.value, static_cast<uint32_t>(Scale(6)));
 
-    Open();
+    OpenAt(0);
     Choose(window_, kDays, 29);
     Close();
     EXPECT_EQ(settingsStore.dNumOfDays.value, 30u) << "the number, not the entry";
-    Open();
+    OpenAt(0);
     EXPECT_EQ(SendMessage(Control(kDays), CB_GETCOUNT, 0, 0), 30);
     SendMessage(Control(kDays), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     Close();
@@ -90,7 +90,7 @@ TEST_F(CalendarPageTest, ShowsNumbersThatItDoesNotOffer) {
 
 TEST_F(CalendarPageTest, HidesTheEmptyLineOnlyWhereDaysAreShown) {
     settingsStore.HideEmptyGroups.Set(1);
-    Open();
+    OpenAt(0);
     EXPECT_FALSE(IsWindowEnabled(Control(kHideEmptyLine)));
     Tap(window_, kHideEmptyDays);
     EXPECT_TRUE(IsWindowEnabled(Control(kHideEmptyLine)));
@@ -101,17 +101,17 @@ TEST_F(CalendarPageTest, HidesTheEmptyLineOnlyWhereDaysAreShown) {
 TEST_F(CalendarPageTest, OffersTheWeatherWhereItsProductIs) {
     SetText(HKEY_CURRENT_USER, L"Software\\Teskel\\Nimbrel", L"NWUtilsPath", kUtility);
     settingsStore.WeatehrLayout.Set(2);
-    Open();
+    OpenAt(0);
     for (const bool isThere : {false, true, false}) {
         if (isThere)
             CloseHandle(CreateFile(kUtility, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
         else
             DeleteFile(kUtility);
-        GoTo(7);
+        ShowTab(7);
         EXPECT_EQ(IsShown(kWeatherNotice), !isThere);
         for (int id = kWeatherNotice + 1; id <= kWeatherTap; ++id)
             EXPECT_EQ(IsShown(id), isThere) << id;
-        GoTo(6);
+        ShowTab(6);
         for (int id = kWeatherNotice; id <= kWeatherTap; ++id)
             EXPECT_FALSE(IsShown(id)) << id;
     }
@@ -123,7 +123,7 @@ TEST_F(CalendarPageTest, OffersTheWeatherWhereItsProductIs) {
 TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
     settingsStore.ClrApptRightIcons.Set(4 + 16);
     settingsStore.ApptLeftAlignIcon2.Set(8);
-    Open(4);
+    OpenAt(4);
     const auto choose = [this](int code, uint32_t flag) {
         SendMessage(window_, kMessageToolbarMenuSelect, flag, code);
     };
@@ -157,7 +157,7 @@ TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
 
 TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {
     settingsStore.ApptDisplayFormat.Set(1);
-    Open(4);
+    OpenAt(4);
     RECT text{};
     GetWindowRect(Control(kDisplayFormat), &text);
     MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&text), 2);
@@ -187,19 +187,19 @@ TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {
     EXPECT_NE(GetFocus(), Control(kDisplayFormat)) << "Up and Down lead out";
     settingsStore.ApptDisplayFormat.Set(0xFFFFFFFF);
     EXPECT_EQ(tap(Scale(20), top + 1), 1u);
-    GoTo(0);
+    ShowTab(0);
     EXPECT_EQ(tap(Scale(20), top + 1), 1u) << "on this section only";
 }
 
 // On every section and screen, what is shown lies on the page, off the tab strip and off each
 // other; also after the screen was turned.
 TEST_F(CalendarPageTest, FitsEveryScreen) {
-    Open();
+    OpenAt(0);
     const SIZE sizes[] = {{240, 268}, {320, 188}, {240, 240}, {240, 268}};
     for (const SIZE& size : sizes) {
         MoveWindow(window_, 0, 0, Scale(size.cx), ScaleY(size.cy), TRUE);
         for (int tab = 0; tab < 9; ++tab) {
-            GoTo(tab);
+            ShowTab(tab);
             RECT page{};
             GetClientRect(window_, &page);
             page.bottom -= ScaleY(22) - 1;

@@ -13,6 +13,7 @@
 #include "shell/services/application.h"
 #include "shell/services/scaling.h"
 #include "tests/settings/store_fixture.h"
+#include "tests/support/resource_count.h"
 
 namespace {
 
@@ -36,26 +37,6 @@ Pixels Picture(int width, Paint paint) {
     GdiFlush();
     const auto* pixels = static_cast<const uint32_t*>(bits);
     return {pixels, pixels + static_cast<size_t>(width) * height};
-}
-
-// GDI objects of this process, in the table that the window system shares with it: GetGuiResources
-// says 0 here.
-int CountGdiObjects() {
-    struct Entry {
-        uint64_t object;
-        uint16_t owner;
-        uint16_t unique;
-        uint8_t type;
-        uint8_t rest[11];
-    };
-    static_assert(sizeof(Entry) == 24);
-    const auto currentBlock = reinterpret_cast<const char* (*)()>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandle(L"ntdll"), "RtlGetCurrentPeb")));
-    const auto* table = *reinterpret_cast<Entry* const*>(currentBlock() + 0xF8);
-    int count = 0;
-    for (int i = 0; i < 65536; ++i)
-        count += table[i].type != 0;
-    return count;
 }
 
 struct Change {
@@ -170,7 +151,7 @@ TEST_F(ItemSampleTest, AnyValueIsSafeAndNothingLeaks) {
         }
     };
     paintAll();
-    const int before = CountGdiObjects();
+    const size_t before = CountGdiObjects();
     for (int i = 0; i < 10; ++i)
         paintAll();
     EXPECT_EQ(CountGdiObjects(), before);

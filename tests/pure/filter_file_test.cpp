@@ -96,6 +96,9 @@ TEST(FilterFile, BoundsALineAndKeepsALongTitle) {
     MemorySink sink;
     WriteFilters(read, sink);
     EXPECT_EQ(Read(sink.content)[0].title.Length(), title.size());
+    const std::string tooLong(5000, 't');
+    EXPECT_STREQ(Read(Block(0, tooLong) + Blocks(32).substr(Block(0).size()))[0].title.CStr(),
+                 L"Filter 1");
     EXPECT_TRUE(AreDefaults(Read(std::string(8U << 20, 'x'))));
 }
 

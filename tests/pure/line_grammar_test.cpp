@@ -123,8 +123,11 @@ TEST(LineReader, CutsLongLines) {
 }
 
 TEST(LineReader, ReadsBytesThatAreNoUtf8AsLatin) {
-    EXPECT_EQ(LinesOf("\xFC\x80 \xC3\xBC \xE2\x82\xAC \xED\xA0\x80 \xC0\x80 \xF8 \xE2\x82"),
-              (std::vector<std::wstring>{L"\xFC\x80 \xFC \x20AC \xD800 \xC0\x80 \xF8 \xE2\x82"}));
+    EXPECT_EQ(
+        LinesOf("\xFC\x80 \xC3\xBC \xE2\x82\xAC \xED\xA0\x80 \xC0\x80 \xF8 \xE0\x80\x80 "
+                "\xF4\x90\x80\x80 \xE2\x82"),
+        (std::vector<std::wstring>{
+            L"\xFC\x80 \xFC \x20AC \xD800 \xC0\x80 \xF8 \xE0\x80\x80 \xF4\x90\x80\x80 \xE2\x82"}));
 }
 
 TEST(LineWriter, WritesWhatTheReaderReads) {

@@ -42,7 +42,7 @@ class SettingKinds : public RegistryFixture {};
 UniqueKey OpenForTest(SettingGroup group) {
     Setting setting;
     setting.group = group;
-    return UniqueKey(OpenGroupKey(setting));
+    return UniqueKey(OpenGroupKey(setting.group));
 }
 
 TEST_F(SettingKinds, EveryGroupHasItsKeyAndNoOtherNumberHas) {

@@ -180,6 +180,9 @@ TEST_F(TabListTest, AKeyThatCannotBeOpenedHoldsNoTabs) {
     LoadInto(*store);
     EXPECT_EQ(OrderOf(store->tabs), L"2 32 4 16 64 8 hosted ");
     StandInResetCalls();
+    SetText(HKEY_CURRENT_USER, KeyOf(L"hosted"), L"DLL", L"hosted.dll");
+    store->Save();
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, KeyOf(L"hosted"), L"DLL"), L"hosted.dll");
 
     // A save without the key changes nothing of the tabs.
     const RegistryTree before = GetTree(HKEY_CURRENT_USER);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "shell/services/application.h"
+#include "shell/services/scaling.h"
 #include "tests/support/window_support.h"
 
 namespace {
@@ -15,10 +16,11 @@ class ListItems : public testing::Test {
   protected:
     void SetUp() override {
         application.instance = GetModuleHandle(nullptr);
+        SetVgaMode(false); // As at start, by the screen's density.
         parent_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 120, 120, nullptr,
                                  nullptr, application.instance, nullptr);
         list_ = CreateList(parent_, kList, nullptr, 20);
-        MoveWindow(list_, 0, 0, 120, 62, FALSE);
+        MoveWindow(list_, 0, 0, Scale(120), ScaleY(62), FALSE);
         AddTickBoxes(list_);
     }
     void TearDown() override { DestroyWindow(parent_); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 // The program's own growable, NUL-terminated wide string. The program's one thread is the only one
 // that may use it.
@@ -28,6 +29,7 @@ class WideString {
 
     // Never null; valid until the string changes.
     [[nodiscard]] const wchar_t* CStr() const { return buffer_; }
+    [[nodiscard]] std::wstring_view View() const { return {buffer_, length_}; }
     [[nodiscard]] size_t Length() const { return length_; }
     // Characters the string is said to hold: 64 at first, and 64 more than a text needs that comes
     // within 4 of the end. The block behind it may be larger.
