@@ -1,15 +1,18 @@
 #include "pages/add_plugin_dialog.h"
 
+#include <aygshell.h>
+
 #include <vector>
 
 #include "resource_ids.h"
 #include "settings/today_items.h"
+#include "shell/services/application.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "shell/services/today_screen.h"
 #include "ui/controls.h"
 #include "ui/messages.h"
-#include "ui/modal_window.h"
+#include "ui/modal_loop.h"
 
 namespace {
 constexpr int kMargin = 10;
@@ -27,34 +30,24 @@ constexpr wchar_t kNothingSelected[] = L"No Today screen plugin is selecetd. Ple
                                        L"screen plugin from the selection combo-box.";
 constexpr wchar_t kNothingSelectedCaption[] = L"Selection Missing";
 
-class AddPluginDialog final : public ModalWindow {
+class AddPluginDialog final : private ModalLoop {
   public:
+    // IDOK when a plug-in was chosen.
+    int Run(HWND owner);
     [[nodiscard]] const WideString& Chosen() const { return chosen_; }
 
-  protected:
-    void CreateControls(HWND window) override;
-    void OnCommand(HWND window, UINT id, UINT notification) override;
-    void Layout(HWND window) override;
-
   private:
-    void OnOk(HWND window);
+    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
+    void OnInit(HWND dialog);
+    void OnCommand(HWND dialog, UINT id);
+    void OnOk(HWND dialog);
 
     std::vector<WideString> plugins_; // In the order of the list's entries.
     WideString chosen_;
 };
 
-void AddPluginDialog::CreateControls(HWND window) {
-    SetDlgItemText(window, IDC_ADD_PLUGIN_LABEL, LanguageText(IDS_TABS_PLUGIN).CStr());
-    SetDlgItemText(window, IDC_ADD_PLUGIN_HELP, LanguageText(IDS_TABS_PLUGIN_HELP).CStr());
-    SetDlgItemText(window, IDCANCEL, LanguageText(IDS_CANCEL).CStr());
-    plugins_ = TodayPlugins();
-    HWND list = GetDlgItem(window, IDC_ADD_PLUGIN_LIST);
-    for (const WideString& plugin : plugins_)
-        AddEntry(list, plugin.CStr());
-    SelectIndex(list, 0);
-}
-
-void AddPluginDialog::Layout(HWND window) {
+void LayOut(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
     const int left = Scale(kMargin);
@@ -71,38 +64,89 @@ void AddPluginDialog::Layout(HWND window) {
         {client.right - left - button, client.bottom - ScaleY(kButtonGap) - row, button, row});
 }
 
-void AddPluginDialog::OnCommand(HWND window, UINT id, UINT) {
-    if (id == IDOK) OnOk(window);
+int AddPluginDialog::Run(HWND owner) {
+    return RunDialog(owner, IDD_ADD_PLUGIN, DialogProc, reinterpret_cast<LPARAM>(this));
+}
+
+void AddPluginDialog::OnInit(HWND dialog) {
+    FillScreen(dialog, LanguageText(IDS_TABS_ADD_TITLE).CStr());
+    SHMENUBARINFO bar{};
+    bar.cbSize = sizeof(bar);
+    bar.hwndParent = dialog;
+    bar.dwFlags = SHCMBF_EMPTYBAR;
+    bar.hInstRes = application.instance;
+    SHCreateMenuBar(&bar); // Belongs to the dialog and goes with it.
+    SetDlgItemText(dialog, IDC_ADD_PLUGIN_LABEL, LanguageText(IDS_TABS_PLUGIN).CStr());
+    SetDlgItemText(dialog, IDC_ADD_PLUGIN_HELP, LanguageText(IDS_TABS_PLUGIN_HELP).CStr());
+    SetDlgItemText(dialog, IDCANCEL, LanguageText(IDS_CANCEL).CStr());
+    plugins_ = TodayPlugins();
+    HWND list = GetDlgItem(dialog, IDC_ADD_PLUGIN_LIST);
+    for (const WideString& plugin : plugins_)
+        AddEntry(list, plugin.CStr());
+    SelectIndex(list, 0);
+    LayOut(dialog);
+}
+
+void AddPluginDialog::OnCommand(HWND dialog, UINT id) {
+    if (id == IDOK) OnOk(dialog);
     if (id == IDCANCEL) Finish(IDCANCEL);
 }
 
-void AddPluginDialog::OnOk(HWND window) {
-    const int entry = SelectedIndex(window, IDC_ADD_PLUGIN_LIST);
+void AddPluginDialog::OnOk(HWND dialog) {
+    const int entry = SelectedIndex(dialog, IDC_ADD_PLUGIN_LIST);
     if (entry < 0) {
-        MessageBox(window, kNothingSelected, kNothingSelectedCaption, MB_OK);
+        MessageBox(dialog, kNothingSelected, kNothingSelectedCaption, MB_OK);
         return;
     }
     const WideString& plugin = plugins_[static_cast<size_t>(entry)];
     if (IsTodayItemEnabled(plugin.CStr())) {
-        if (!AskYesNo(window, IDS_TABS_DISABLE_QUESTION, IDS_TABS_DISABLE_CAPTION)) {
+        if (!AskYesNo(dialog, IDS_TABS_DISABLE_QUESTION, IDS_TABS_DISABLE_CAPTION)) {
             Finish(IDCANCEL);
             return;
         }
         DisableTodayItem(plugin.CStr());
         // The Today screen may take its time; nothing of the question is to stay meanwhile.
-        InvalidateRect(window, nullptr, TRUE);
-        UpdateWindow(window);
+        InvalidateRect(dialog, nullptr, TRUE);
+        UpdateWindow(dialog);
         RefreshTodayScreen();
     }
     chosen_ = plugin;
     Finish(IDOK);
 }
+
+INT_PTR AddPluginDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        OnInit(dialog);
+        return FALSE; // The loop gives the focus.
+    case WM_SIZE:
+        LayOut(dialog);
+        return TRUE;
+    case WM_COMMAND:
+        OnCommand(dialog, LOWORD(wParam));
+        return TRUE;
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
+    case WM_DESTROY:
+        OnDestroyed();
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+INT_PTR CALLBACK AddPluginDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
+                                             LPARAM lParam) {
+    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
+    auto* self = reinterpret_cast<AddPluginDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
+    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
+}
 } // namespace
 
 bool ChoosePluginToAdd(HWND owner, WideString& name) {
     AddPluginDialog dialog;
-    if (dialog.RunDialog(owner, IDD_ADD_PLUGIN, LanguageText(IDS_TABS_ADD_TITLE).CStr()) != IDOK)
-        return false;
+    if (dialog.Run(owner) != IDOK) return false;
     name = dialog.Chosen();
     return true;
 }

@@ -71,6 +71,7 @@ void FormPage::PlaceRow(HWND window, const FormRow& row, RowLayout& layout) {
     const WideString text = LanguageText(row.text);
     switch (row.kind) {
     case RowKind::Check:
+    case RowKind::Switch:
         layout.AddCheck(row.id, text.CStr());
         break;
     case RowKind::Choice:
@@ -93,6 +94,9 @@ void FormPage::LoadRow(HWND window, const FormRow& row) {
     switch (row.kind) {
     case RowKind::Check:
         SendMessage(control, BM_SETCHECK, (settingsStore.*row.setting).value == 1, 0);
+        break;
+    case RowKind::Switch:
+        SendMessage(control, BM_SETCHECK, (settingsStore.*row.setting).value != 0, 0);
         break;
     case RowKind::Choice:
         FillChoices(control, row.choices);
@@ -130,6 +134,7 @@ void FormPage::SaveValues(HWND window, WPARAM) {
 void FormPage::SaveRow(HWND window, const FormRow& row) {
     switch (row.kind) {
     case RowKind::Check:
+    case RowKind::Switch:
         (settingsStore.*row.setting).Set(IsBoxChecked(window, row.id) ? 1 : 0);
         break;
     case RowKind::Choice:

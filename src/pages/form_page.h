@@ -12,6 +12,7 @@
 
 enum class RowKind : uint8_t {
     Check,  // A box for a number that is 1 or 0.
+    Switch, // The same, but every number except 0 is on.
     Choice, // A drop-down list that stores the index of its entry.
     Path,   // A path with a button to clear it and one to browse; four control ids.
     Text,   // A text in one of two columns.

@@ -101,11 +101,11 @@ constexpr FormRow kRows[] = {
      .text = IDS_TABS_DEFAULT,
      .choices = kDefaultChoices,
      .setting = &SettingsStore::DfltTab},
-    // Any number but 0 counts as set.
     {.tab = 2,
-     .kind = RowKind::Custom,
+     .kind = RowKind::Switch,
      .id = kDefaultOnStartup,
-     .text = IDS_TABS_DEFAULT_ON_STARTUP},
+     .text = IDS_TABS_DEFAULT_ON_STARTUP,
+     .setting = &SettingsStore::DfltTabOnStartup},
 };
 
 bool HasGestures(HWND page) {
@@ -214,16 +214,12 @@ void TabsPage::CreateTabList(HWND window) const {
     HWND list = CreateList(window, kList, normalFont, kRowHeight);
     AddTickBoxes(list);
     for (const ListButton& button : kButtons) {
-        CreateControl(window, L"BUTTON", LanguageText(button.text).CStr(), WS_TABSTOP, button.id,
-                      {}, normalFont);
+        CreateHiddenControl(window, L"BUTTON", LanguageText(button.text).CStr(), WS_TABSTOP,
+                            button.id, {}, normalFont);
     }
 }
 
-void TabsPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout) {
-    if (row.id == kDefaultOnStartup) {
-        layout.AddCheck(row.id, LanguageText(row.text).CStr());
-        return;
-    }
+void TabsPage::PlaceCustomRow(HWND window, const FormRow&, RowLayout& layout) {
     if (!ListOf(window)) CreateTabList(window);
     RECT client{};
     GetClientRect(window, &client);
@@ -240,12 +236,7 @@ void TabsPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout
     }
 }
 
-void TabsPage::LoadCustomRow(HWND window, const FormRow& row) {
-    if (row.id == kDefaultOnStartup) {
-        SendDlgItemMessage(window, kDefaultOnStartup, BM_SETCHECK,
-                           settingsStore.DfltTabOnStartup.value != 0, 0);
-        return;
-    }
+void TabsPage::LoadCustomRow(HWND window, const FormRow&) {
     HWND list = ListOf(window);
     for (const auto& tab : settingsStore.tabs.All()) {
         if (tab->type != TabType::Calendar) AddTabRow(list, *tab);
@@ -254,11 +245,8 @@ void TabsPage::LoadCustomRow(HWND window, const FormRow& row) {
     EnableRemoval(window);
 }
 
-void TabsPage::SaveCustomRow(HWND window, const FormRow& row) {
-    if (row.id == kDefaultOnStartup)
-        settingsStore.DfltTabOnStartup.Set(IsBoxChecked(window, kDefaultOnStartup) ? 1 : 0);
-    else
-        SaveTabs(ListOf(window));
+void TabsPage::SaveCustomRow(HWND window, const FormRow&) {
+    SaveTabs(ListOf(window));
 }
 
 LRESULT TabsPage::OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -3,6 +3,8 @@
 #include <new>
 
 #include "pages/calendar_page.h"
+#include "pages/colours_page.h"
+#include "pages/fonts_page.h"
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
 #include "pages/tabs_page.h"
@@ -43,10 +45,8 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TITLES>},
     {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin",
      MakeOutline<IDS_TAB_SEVENTS_DISPLAY, IDS_TAB_SEVENTS_FILTERS, IDS_TAB_TITLES>},
-    {IDS_PAGE_FONTS, L"FontSettingsWin",
-     MakeOutline<IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_COLOURS>},
-    {IDS_PAGE_COLOURS, L"ColorSettingsWin",
-     MakeOutline<IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES>},
+    {IDS_PAGE_FONTS, L"FontSettingsWin", MakePage<FontsPage>},
+    {IDS_PAGE_COLOURS, L"ColorSettingsWin", MakePage<ColoursPage>},
     {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
     {IDS_PAGE_TABS, L"TabsSettingsWin", MakeTabs},
     {IDS_PAGE_CATEGORY, L"CategorySettingsWin",

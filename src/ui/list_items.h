@@ -5,7 +5,7 @@
 // Lists of one column: report-mode list views without a header.
 
 // An empty list with rows `rowHeight` units high (a line of text alone is too low for a finger), of
-// which one can be selected. Null when the platform refuses.
+// which one can be selected, not shown yet. Null when the platform refuses.
 HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight);
 
 // Makes the column as wide as the list has room, so that no scroll bar lies below it. To be called

@@ -38,6 +38,15 @@ constexpr UINT kSkinBrowse = 1214;
 constexpr UINT kTabList = 1206;
 constexpr UINT kAddTab = 1209;
 constexpr UINT kPluginList = 473;
+constexpr int kFonts = 7;
+constexpr int kColours = 8;
+constexpr int kEditButton = 1210; // Of the Fonts page.
+constexpr int kFontItems = 1211;
+constexpr int kEditColour = 1200;
+constexpr int kColourItems = 1201;
+constexpr int kFontSetColour = 479;
+constexpr int kRedEdit = 126;
+constexpr int kHtmlEdit = 130;
 
 void Show(const char* name) {
     constexpr DWORD kPaintTime = 150; // Milliseconds; paints come when all else is done.
@@ -144,6 +153,57 @@ void ShowAddTab(const Program& program, HWND page) {
     ShowQuestion(dialog, "question-add-tab");
 }
 
+// Selects a row by a tap on the first one and by keys.
+void SelectRow(HWND list, int row) {
+    RECT place{};
+    GetWindowRect(list, &place);
+    TapAt(place.left + 20, place.top + 8);
+    for (int i = 0; i < row; ++i)
+        Press(VK_DOWN);
+}
+
+void ShowPicker(const Program& program) {
+    HWND picker = program.WaitForWindow(L"ColourPickerWin");
+    if (!picker) return;
+    Show("picker-field");
+    HWND strip = FindWindowEx(picker, nullptr, WC_TABCONTROL, nullptr);
+    SendMessage(strip, TCM_SETCURFOCUS, 1, 0);
+    TapOn(GetDlgItem(picker, kHtmlEdit));
+    Show("picker-values");
+    SendDlgItemMessage(picker, kRedEdit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"7"));
+    Show("picker-changed");
+    // The button in the middle of the bar raises the input panel.
+    TapAt(GetSystemMetrics(SM_CXSCREEN) / 2, GetSystemMetrics(SM_CYSCREEN) - 8);
+    Show("picker-panel");
+    Close(picker, IDCANCEL);
+}
+
+void ShowFontItem(const Program& program, HWND page) {
+    SelectRow(GetDlgItem(page, kFontItems), 2);
+    Show("fonts-item");
+    TapOn(GetDlgItem(page, kEditButton));
+    HWND dialog = program.WaitForMessageBox();
+    if (!dialog) return;
+    Show("dialog-font-style");
+    TapOn(GetDlgItem(dialog, kFontSetColour));
+    ShowPicker(program);
+    Close(dialog, IDCANCEL);
+    Press(VK_F1);
+    Show("menu-fonts");
+    Press(VK_ESCAPE);
+    Press(VK_ESCAPE);
+}
+
+void ShowColourItem(const Program& program, HWND page) {
+    SelectRow(GetDlgItem(page, kColourItems), 1);
+    Show("colours-item");
+    TapOn(GetDlgItem(page, kEditColour));
+    if (HWND picker = program.WaitForWindow(L"ColourPickerWin")) {
+        Show("picker-colour");
+        Close(picker, IDCANCEL);
+    }
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -158,6 +218,8 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kCalendar) ShowOptions(tab);
         if (row == kCalendar && tab == 3) ShowOpenChoice();
         if (row == kTabs && tab == 1) ShowAddTab(program, page);
+        if (row == kFonts && tab == 1) ShowFontItem(program, page);
+        if (row == kColours && tab == 0) ShowColourItem(program, page);
         if (row == kTasks && tab == 2) ShowIconChooser(page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);

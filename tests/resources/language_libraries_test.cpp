@@ -190,20 +190,43 @@ struct WidthLimit {
 };
 
 const WidthLimit kLabelLimits[] = {
-    {"label of a combo row", 98, {IDS_GENERAL_ON_CLICK,       IDS_GENERAL_ON_DOUBLE_CLICK,
-                                  IDS_GENERAL_HEIGHT,         IDS_GENERAL_HEIGHT_LANDSCAPE,
-                                  IDS_GENERAL_LANGUAGE,       IDS_GENERAL_FILTER_ALIGN,
-                                  IDS_GENERAL_DPAD_MODE,      IDS_GENERAL_DPAD_COMPLETE,
-                                  IDS_GENERAL_DPAD_SCROLLING, IDS_GENERAL_LOADING_DELAY,
-                                  IDS_TASKS_DATE_FORMAT,      IDS_TASKS_FUTURE_LIMIT,
-                                  IDS_TITLES_BREAK_LINE,      IDS_TITLES_FOLD_START,
-                                  IDS_TASKS_CUSTOM_DATE_SHOW, IDS_CALENDAR_DAYS,
-                                  IDS_CALENDAR_WEEKS,         IDS_CALENDAR_TEXT_COLOUR,
-                                  IDS_CALENDAR_PASSED,        IDS_CALENDAR_BARS,
-                                  IDS_CALENDAR_CONFLICTS,     IDS_CALENDAR_WEATHER_LAYOUT,
-                                  IDS_CALENDAR_WEATHER_TAP,   IDS_TABS_MODE,
-                                  IDS_TABS_GESTURES,          IDS_TABS_EFFECT,
-                                  IDS_TABS_TIME_OUT,          IDS_TABS_DEFAULT}},
+    {"label of a combo row",
+     98,
+     {IDS_GENERAL_ON_CLICK,
+      IDS_GENERAL_ON_DOUBLE_CLICK,
+      IDS_GENERAL_HEIGHT,
+      IDS_GENERAL_HEIGHT_LANDSCAPE,
+      IDS_GENERAL_LANGUAGE,
+      IDS_GENERAL_FILTER_ALIGN,
+      IDS_GENERAL_DPAD_MODE,
+      IDS_GENERAL_DPAD_COMPLETE,
+      IDS_GENERAL_DPAD_SCROLLING,
+      IDS_GENERAL_LOADING_DELAY,
+      IDS_TASKS_DATE_FORMAT,
+      IDS_TASKS_FUTURE_LIMIT,
+      IDS_TITLES_BREAK_LINE,
+      IDS_TITLES_FOLD_START,
+      IDS_TASKS_CUSTOM_DATE_SHOW,
+      IDS_FONTS_SIZE,
+      IDS_FONTS_TITLE_SIZE,
+      IDS_FONTS_FACE,
+      IDS_FONTS_SHADOW,
+      IDS_FONT_STYLE_SIZE,
+      IDS_FONT_STYLE_COLOUR,
+      IDS_FONTS_COLOUR,
+      IDS_CALENDAR_DAYS,
+      IDS_CALENDAR_WEEKS,
+      IDS_CALENDAR_TEXT_COLOUR,
+      IDS_CALENDAR_PASSED,
+      IDS_CALENDAR_BARS,
+      IDS_CALENDAR_CONFLICTS,
+      IDS_CALENDAR_WEATHER_LAYOUT,
+      IDS_CALENDAR_WEATHER_TAP,
+      IDS_TABS_MODE,
+      IDS_TABS_GESTURES,
+      IDS_TABS_EFFECT,
+      IDS_TABS_TIME_OUT,
+      IDS_TABS_DEFAULT}},
     {"label above a text", 98, {IDS_TASKS_CUSTOM_DATE_START, IDS_TASKS_CUSTOM_DATE_DUE}},
     {"label of an icon chooser",
      62,
@@ -249,7 +272,13 @@ const WidthLimit kLabelLimits[] = {
       IDS_TITLES_FOLDING,
       IDS_TITLES_COUNTERS,
       IDS_TASKS_CUSTOM_DATE,
-      IDS_TABS_DEFAULT_ON_STARTUP}},
+      IDS_TABS_DEFAULT_ON_STARTUP,
+      IDS_FONTS_PER_ITEM,
+      IDS_FONTS_CLEAR_TYPE,
+      IDS_FONT_STYLE_BOLD,
+      IDS_FONT_STYLE_ITALIC,
+      IDS_FONT_STYLE_UNDERLINE,
+      IDS_FONT_STYLE_STRIKE_OUT}},
     {"choice of a combo",
      100,
      {IDS_GENERAL_ON_CLICK_OPEN,
@@ -288,6 +317,11 @@ const WidthLimit kLabelLimits[] = {
       IDS_TASKS_CUSTOM_DATE_SHOW_START,
       IDS_TASKS_CUSTOM_DATE_SHOW_DUE,
       IDS_TASKS_CUSTOM_DATE_SHOW_BOTH,
+      IDS_FONTS_SHADOW_NONE,
+      IDS_FONTS_SHADOW_BELOW_RIGHT,
+      IDS_FONTS_SHADOW_BELOW_LEFT,
+      IDS_FONTS_SHADOW_ABOVE_RIGHT,
+      IDS_FONTS_SHADOW_ABOVE_LEFT,
       IDS_DASHBOARD_TAB_TASKS,
       IDS_DASHBOARD_TAB_NOTES,
       IDS_DASHBOARD_TAB_CONTACTS,
@@ -372,7 +406,15 @@ const WidthLimit kLabelLimits[] = {
     {"button beside a list", 50, {IDS_MOVE_UP, IDS_MOVE_DOWN}},
     {"button beside the list of tabs", 68, {IDS_TABS_ADD, IDS_TABS_REMOVE}},
     {"label above a list", 214, {IDS_TABS_PLUGIN}},
-    {"button beside a path", 36, {IDS_CLEAR, IDS_BROWSE}},
+    {"button beside a path or a swatch",
+     36,
+     {IDS_CLEAR, IDS_BROWSE, IDS_FONTS_EDIT, IDS_FONT_STYLE_SET, IDS_COLOURS_EDIT}},
+    {"button of the schemes", 74, {IDS_COLOURS_LOAD, IDS_COLOURS_DELETE, IDS_COLOURS_SAVE}},
+    {"button of the colour picker", 54, {IDS_PICKER_DEFAULT, IDS_CANCEL}},
+    {"label in the colour picker",
+     40,
+     {IDS_PICKER_RED, IDS_PICKER_GREEN, IDS_PICKER_BLUE, IDS_PICKER_HTML}},
+    {"label of the picker's sample", 78, {IDS_PICKER_SELECTED}},
     {"colour swatch", 40, {IDS_COLOUR_NONE}},
 };
 
@@ -399,6 +441,7 @@ const WidthLimit kTabStripLimits[] = {
     {"Fonts, one for all items", 200, {IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_COLOURS}},
     {"Fonts, one per item", 200, {IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_FONTS}},
     {"Colours", 200, {IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES}},
+    {"the colour picker", 200, {IDS_PICKER_TAB_FIELD, IDS_PICKER_TAB_VALUES}},
     {"PIM", 200, {IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS}},
     {"Tabs", 200, {IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT}},
     {"Categories",
@@ -423,6 +466,36 @@ TEST_F(LanguageLibraries, FitTheirPlaces) {
                 sum += normal.Width(Text(language.library.Get(), id));
             EXPECT_LE(sum, page.pixels) << language.file << ", tabs of " << page.place;
         }
+    }
+}
+
+// What is above a sample, and the rows of the list below it, whose scroll bar takes 16 pixels.
+TEST_F(LanguageLibraries, DescribeFontsAndColoursInTheirPlaces) {
+    constexpr int kLine = 220;
+    constexpr int kListRow = kLine - 16 - 12;
+    const TextMeasure normal(FW_DONTCARE);
+    for (const Language& language : languages_) {
+        const auto width = [&](UINT id) { return normal.Width(Text(language.library.Get(), id)); };
+        const int header = std::max(width(IDS_FONTS_HEADER_FONT), width(IDS_FONTS_HEADER_COLOUR));
+        for (UINT id = IDS_FONT_GENERAL_ABOUT; id <= IDS_FONT_EVENTS_4_ABOUT; ++id)
+            EXPECT_LE(header + width(id), kLine) << language.file << " " << id;
+        for (const UINT id :
+             {IDS_FONT_NOTES, IDS_FONT_NOTES_TITLES, IDS_FONT_CONTACTS, IDS_FONT_CONTACTS_TITLES,
+              IDS_FONT_MESSAGES_UNREAD, IDS_FONT_MESSAGES_READ, IDS_FONT_MESSAGES_TITLES,
+              IDS_FONT_EVENTS_TITLES_ABOUT})
+            EXPECT_LE(header + width(id), kLine) << language.file << " " << id;
+        for (UINT id = IDS_FONT_GENERAL; id <= IDS_FONT_EVENTS_4; ++id)
+            EXPECT_LE(width(id), kListRow) << language.file << " " << id;
+        for (UINT id = IDS_COLOUR_SEPARATOR; id <= IDS_COLOUR_STATUS_OUT_OF_OFFICE; ++id)
+            EXPECT_LE(width(id), kListRow) << language.file << " " << id;
+        EXPECT_LE(width(IDS_FONT_EVENTS_TITLES), kListRow) << language.file;
+        const auto lines = [&](UINT id) {
+            return WrappedLines(Text(language.library.Get(), id), normal, kLine).size();
+        };
+        EXPECT_LE(lines(IDS_COLOURS_SCHEMES), 3U) << language.file;
+        for (UINT id = IDS_COLOUR_SEPARATOR_ABOUT; id <= IDS_COLOUR_STATUS_OUT_OF_OFFICE_ABOUT;
+             ++id)
+            EXPECT_LE(lines(id), 3U) << language.file << " " << id;
     }
 }
 
@@ -527,6 +600,15 @@ TEST_F(LanguageLibraries, HoldTheMainMenu) {
         ExpectDistinctMnemonics(menu.Get(), language.file);
         ExpectDistinctMnemonics(first, language.file);
         ExpectDistinctMnemonics(second, language.file);
+    }
+}
+
+TEST_F(LanguageLibraries, HoldTheMenuOfTheFontsPage) {
+    for (const Language& language : languages_) {
+        UniqueMenu menu(LoadMenuW(language.library.Get(), MAKEINTRESOURCEW(IDM_FONTS)));
+        ASSERT_TRUE(menu) << language.file;
+        ExpectDistinctMnemonics(menu.Get(), language.file);
+        EXPECT_EQ(Commands(GetSubMenu(menu.Get(), 0)), (std::vector<UINT>{IDC_SAME_SIZE}));
     }
 }
 
