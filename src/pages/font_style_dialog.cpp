@@ -45,10 +45,6 @@ constexpr TextOfControl kTexts[] = {
     {IDC_FONT_SIZE_LABEL, IDS_FONT_STYLE_SIZE},
     {IDC_FONT_SET_COLOUR, IDS_FONT_STYLE_SET},
 };
-constexpr UINT kControls[] = {
-    IDC_FONT_SIZE_LABEL, IDC_FONT_SIZE,       IDC_FONT_BOLD,         IDC_FONT_ITALIC,
-    IDC_FONT_UNDERLINE,  IDC_FONT_STRIKE_OUT, IDC_FONT_COLOUR_LABEL, IDC_FONT_SET_COLOUR,
-};
 
 class FontStyleDialog final : private ModalLoop {
   public:
@@ -118,26 +114,14 @@ void LayOut(HWND dialog) {
 }
 
 void FontStyleDialog::Run(HWND owner) {
-    HRSRC resource = FindResource(application.instance, MAKEINTRESOURCE(IDD_FONT_STYLE), RT_DIALOG);
-    if (!resource) return;
-    // What LoadResource gives is the resource itself.
-    const auto* dialogTemplate =
-        static_cast<const DLGTEMPLATE*>(LoadResource(application.instance, resource));
-    RunOver(owner, CreateDialogIndirectParam(application.instance, dialogTemplate, owner,
-                                             DialogProc, reinterpret_cast<LPARAM>(this)));
+    RunDialog(owner, IDD_FONT_STYLE, DialogProc, reinterpret_cast<LPARAM>(this));
 }
 
 void FontStyleDialog::OnInit(HWND dialog) {
-    SHINITDLGINFO info{SHIDIM_FLAGS, dialog,
-                       SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN};
-    SHInitDialog(&info);
-    SetWindowText(dialog, LanguageText(IDS_FONT_STYLE_TITLE).CStr());
+    FillScreen(dialog, LanguageText(IDS_FONT_STYLE_TITLE).CStr());
     CreateBar(dialog);
     for (const TextOfControl& entry : kTexts)
         SetDlgItemText(dialog, static_cast<int>(entry.control), LanguageText(entry.text).CStr());
-    for (const UINT id : kControls)
-        SendDlgItemMessage(dialog, static_cast<int>(id), WM_SETFONT,
-                           reinterpret_cast<WPARAM>(application.normalFont), FALSE);
     LayOut(dialog);
     LoadValues(dialog);
 }

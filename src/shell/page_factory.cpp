@@ -8,6 +8,7 @@
 #include "pages/fonts_page.h"
 #include "pages/general_page.h"
 #include "pages/outline_page.h"
+#include "pages/tabs_page.h"
 #include "pages/tasks_page.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
@@ -44,8 +45,7 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_FONTS, L"FontSettingsWin", MakePage<FontsPage>},
     {IDS_PAGE_COLOURS, L"ColorSettingsWin", MakePage<ColoursPage>},
     {IDS_PAGE_PIM, L"PIMSettingsWin", MakeOutline<IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS>},
-    {IDS_PAGE_TABS, L"TabsSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},
+    {IDS_PAGE_TABS, L"TabsSettingsWin", MakePage<TabsPage>},
     {IDS_PAGE_CATEGORY, L"CategorySettingsWin", MakePage<CategoryPage>},
 };
 } // namespace

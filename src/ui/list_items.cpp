@@ -117,12 +117,12 @@ void FitColumn(HWND list) {
     SendMessage(list, LVM_SETCOLUMNWIDTH, 0, client.right);
 }
 
-void AddRow(HWND list, const wchar_t* text, uint32_t data) {
+void AddRow(HWND list, const wchar_t* text, LPARAM data) {
     LVITEM item{};
     item.mask = LVIF_TEXT | LVIF_PARAM;
     item.iItem = RowCount(list);
     item.pszText = const_cast<wchar_t*>(text);
-    item.lParam = static_cast<LPARAM>(data);
+    item.lParam = data;
     SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
 }
 
@@ -130,12 +130,34 @@ int RowCount(HWND list) {
     return static_cast<int>(SendMessage(list, LVM_GETITEMCOUNT, 0, 0));
 }
 
-uint32_t RowData(HWND list, int row) {
+LPARAM RowData(HWND list, int row) {
     LVITEM item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
     SendMessage(list, LVM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
-    return static_cast<uint32_t>(item.lParam);
+    return item.lParam;
+}
+
+void AddTickBoxes(HWND list) {
+    SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+    const auto images = [list](WPARAM kind) {
+        return reinterpret_cast<HIMAGELIST>(SendMessage(list, LVM_GETIMAGELIST, kind, 0));
+    };
+    UniqueImageList taller(CentreImages(images(LVSIL_STATE), images(LVSIL_SMALL)));
+    if (!taller) return;
+    const UniqueImageList platforms(reinterpret_cast<HIMAGELIST>(SendMessage(
+        list, LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(taller.Release()))));
+}
+
+bool IsRowTicked(HWND list, int row) {
+    const auto state = static_cast<UINT>(
+        SendMessage(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK));
+    return state == INDEXTOSTATEIMAGEMASK(kTickedImage);
+}
+
+void TickRow(HWND list, int row, bool ticked) {
+    SetRowState(list, row, INDEXTOSTATEIMAGEMASK(ticked ? kTickedImage : kTickedImage - 1),
+                LVIS_STATEIMAGEMASK);
 }
 
 void AddTickBoxes(HWND list) {

@@ -33,10 +33,14 @@ constexpr PageSight kPages[kPageCount] = {
 constexpr int kGeneral = 0;
 constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
+constexpr int kTabs = 10;
+constexpr UINT kSkinBrowse = 1214;
+constexpr UINT kTabList = 1206;
+constexpr UINT kAddTab = 1209;
+constexpr UINT kPluginList = 473;
 constexpr int kFonts = 7;
 constexpr int kColours = 8;
 constexpr int kCategory = 11;
-constexpr UINT kSkinBrowse = 1214;
 constexpr int kEditButton = 1210; // Of the Fonts page.
 constexpr int kFontItems = 1211;
 constexpr int kEditColour = 1200;
@@ -121,6 +125,37 @@ void ShowOpenChoice() {
     Press(VK_RETURN);
     Show("option-choice-open");
     Press(VK_ESCAPE);
+}
+
+// The box that opens over a dialog, both of which are dialogs to the platform.
+void ShowQuestion(HWND dialog, const char* name) {
+    PostMessage(dialog, WM_COMMAND, IDOK, 0);
+    WaitUntil([dialog] { return GetLastActivePopup(dialog) != dialog; });
+    HWND question = GetLastActivePopup(dialog);
+    Show(name);
+    PostMessage(question, WM_COMMAND, IDNO, 0);
+    WaitUntil([dialog] { return !IsWindow(dialog); });
+}
+
+// A plug-in's tab selected, the dialog that adds one, its list, and the question about a plug-in
+// that is on the Today screen.
+void ShowAddTab(const Program& program, HWND page) {
+    TapOn(GetDlgItem(page, kTabList));
+    constexpr int kPluginRow = 3;
+    Press(VK_HOME);
+    for (int row = 0; row < kPluginRow; ++row)
+        Press(VK_DOWN);
+    Show("page-10-tabs-2-selected");
+    TapOn(GetDlgItem(page, kAddTab));
+    HWND dialog = program.WaitForWindow(L"#32770");
+    if (!dialog) return;
+    Show("dialog-add-tab");
+    Press(VK_RETURN);
+    Show("dialog-add-tab-list");
+    Press(VK_ESCAPE);
+    constexpr WPARAM kEnabledPlugin = 1;
+    SendDlgItemMessage(dialog, kPluginList, CB_SETCURSEL, kEnabledPlugin, 0);
+    ShowQuestion(dialog, "question-add-tab");
 }
 
 // Selects a row by a tap on the first one and by keys.
@@ -209,6 +244,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
         if (row == kCalendar) ShowOptions(tab);
         if (row == kCalendar && tab == 3) ShowOpenChoice();
+        if (row == kTabs && tab == 1) ShowAddTab(program, page);
         if (row == kFonts && tab == 1) ShowFontItem(program, page);
         if (row == kColours && tab == 0) ShowColourItem(program, page);
         if (row == kTasks && tab == 2) ShowIconChooser(page);
