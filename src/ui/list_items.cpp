@@ -160,28 +160,6 @@ void TickRow(HWND list, int row, bool ticked) {
                 LVIS_STATEIMAGEMASK);
 }
 
-void AddTickBoxes(HWND list) {
-    SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
-    const auto images = [list](WPARAM kind) {
-        return reinterpret_cast<HIMAGELIST>(SendMessage(list, LVM_GETIMAGELIST, kind, 0));
-    };
-    UniqueImageList taller(CentreImages(images(LVSIL_STATE), images(LVSIL_SMALL)));
-    if (!taller) return;
-    const UniqueImageList platforms(reinterpret_cast<HIMAGELIST>(SendMessage(
-        list, LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(taller.Release()))));
-}
-
-bool IsRowTicked(HWND list, int row) {
-    const auto state = static_cast<UINT>(
-        SendMessage(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK));
-    return state == INDEXTOSTATEIMAGEMASK(kTickedImage);
-}
-
-void TickRow(HWND list, int row, bool ticked) {
-    SetRowState(list, row, INDEXTOSTATEIMAGEMASK(ticked ? kTickedImage : kTickedImage - 1),
-                LVIS_STATEIMAGEMASK);
-}
-
 int SelectedRow(HWND list) {
     return static_cast<int>(
         SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));

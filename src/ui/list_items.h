@@ -23,11 +23,6 @@ void AddTickBoxes(HWND list);
 [[nodiscard]] bool IsRowTicked(HWND list, int row);
 void TickRow(HWND list, int row, bool ticked);
 
-// Gives every row a box to tick, in the middle of its height.
-void AddTickBoxes(HWND list);
-[[nodiscard]] bool IsRowTicked(HWND list, int row);
-void TickRow(HWND list, int row, bool ticked);
-
 // −1 for none.
 [[nodiscard]] int SelectedRow(HWND list);
 [[nodiscard]] int FocusedRow(HWND list);
