@@ -12,8 +12,10 @@
 "HighlightBgClr"=dword:9853992
 "HighlightTextClr"=dword:16777215
 "SeperatorLineClr"=dword:13153440
+"ShadowFontColor"=dword:13153440
 "TimeLinesBgClr"=dword:15788256
 "TimeLinesDfltClr"=dword:12615744
+"TskBreakingLineClr"=dword:13153440
 
 [Software\Teskel\Orvane\Fonts]
 "FontCalDayTitleslfColor"=dword:8404992

@@ -1,6 +1,7 @@
 #include "pages/alphabet_list.h"
 
-#include <algorithm>
+#include <commctrl.h>
+
 #include <utility>
 
 #include "files/custom_alphabets.h"
@@ -43,7 +44,7 @@ WideString Described(const Alphabet& alphabet) {
 
 void AlphabetList::Create(HWND page, UINT id, HFONT font) {
     list_ = CreateList(page, id, font, kRowHeight);
-    SendMessage(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES);
+    AddTickBoxes(list_);
 }
 
 void AlphabetList::Place(const ControlPlace& place) const {
@@ -91,35 +92,25 @@ void AlphabetList::AddCustoms() {
 void AlphabetList::AddRow(const Row& row, const WideString& text) {
     rows_.push_back(row);
     ::AddRow(list_, text.CStr());
-    Tick(rows_.size() - 1, row.wasActive);
+    TickRow(list_, static_cast<int>(rows_.size()) - 1, row.wasActive);
 }
 
-bool AlphabetList::IsTicked(size_t row) const {
-    const LRESULT state = SendMessage(list_, LVM_GETITEMSTATE, row, LVIS_STATEIMAGEMASK);
-    return static_cast<UINT>(state) == INDEXTOSTATEIMAGEMASK(2);
-}
-
-void AlphabetList::Tick(size_t row, bool isTicked) const {
-    LVITEM item{};
-    item.state = INDEXTOSTATEIMAGEMASK(isTicked ? 2U : 1U);
-    item.stateMask = LVIS_STATEIMAGEMASK;
-    SendMessage(list_, LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
-}
-
-void AlphabetList::OnNotify(const NMHDR& header) {
+void AlphabetList::OnNotify(const NMHDR& header) const {
     if (header.hwndFrom != list_) return;
     if (header.code == LVN_ITEMCHANGED) {
         const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-        if (change.iItem >= 0) OnTicked(static_cast<size_t>(change.iItem));
-    } else if (header.code == LVN_ITEMACTIVATE) {
-        // Enter, where the directional pad has no Space.
+        if (change.iItem >= 0) RefuseTick(change.iItem);
+    } else if (header.code == NM_RETURN) {
+        // Enter ticks a row, as devices have no space bar.
         const int row = FocusedRow(list_);
-        if (row >= 0) Tick(static_cast<size_t>(row), !IsTicked(static_cast<size_t>(row)));
+        if (row >= 0) TickRow(list_, row, !IsRowTicked(list_, row));
     }
 }
 
-void AlphabetList::OnTicked(size_t row) {
-    if (row < rows_.size() && !rows_[row].isUsable && IsTicked(row)) Tick(row, false);
+void AlphabetList::RefuseTick(int row) const {
+    const auto index = static_cast<size_t>(row);
+    if (index < rows_.size() && !rows_[index].isUsable && IsRowTicked(list_, row))
+        TickRow(list_, row, false);
 }
 
 void AlphabetList::Save() const {
@@ -127,7 +118,7 @@ void AlphabetList::Save() const {
     std::vector<WideString> active;
     bool hasOtherCustoms = false;
     for (size_t row = 0; row < rows_.size(); ++row) {
-        const bool isTicked = IsTicked(row);
+        const bool isTicked = IsRowTicked(list_, static_cast<int>(row));
         const bool isCustom = rows_[row].language == 0;
         if (isTicked != rows_[row].wasActive) languages ^= rows_[row].language;
         if (isCustom && isTicked != rows_[row].wasActive) hasOtherCustoms = true;

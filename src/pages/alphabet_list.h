@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <commctrl.h>
-
 #include <cstdint>
 #include <vector>
 
@@ -22,7 +20,7 @@ class AlphabetList {
     // Stores what the user changed; flags of languages unknown here stay.
     void Save() const;
     // A notification of the list.
-    void OnNotify(const NMHDR& header);
+    void OnNotify(const NMHDR& header) const;
 
   private:
     struct Row {
@@ -35,9 +33,8 @@ class AlphabetList {
     void AddLanguages();
     void AddCustoms();
     void AddRow(const Row& row, const WideString& text);
-    void OnTicked(size_t row);
-    [[nodiscard]] bool IsTicked(size_t row) const;
-    void Tick(size_t row, bool isTicked) const;
+    // Takes the tick from a row that cannot be active.
+    void RefuseTick(int row) const;
 
     HWND list_ = nullptr;
     std::vector<Row> rows_;

@@ -28,7 +28,7 @@ void FillChoices(HWND combo, std::span<const UINT> choices) {
 
 bool IsShownChecked(const FormRow& row) {
     const uint32_t value = (settingsStore.*row.setting).value;
-    return row.kind == RowKind::Flag ? value != 0 : value == 1;
+    return row.kind == RowKind::Switch ? value != 0 : value == 1;
 }
 
 void ShowNumber(HWND combo, const FormRow& row) {
@@ -95,7 +95,7 @@ void FormPage::PlaceRow(HWND window, const FormRow& row, RowLayout& layout) {
     const WideString text = LanguageText(row.text);
     switch (row.kind) {
     case RowKind::Check:
-    case RowKind::Flag:
+    case RowKind::Switch:
         layout.AddCheck(row.id, text.CStr());
         break;
     case RowKind::Choice:
@@ -119,7 +119,7 @@ void FormPage::LoadRow(HWND window, const FormRow& row) {
     HWND control = GetDlgItem(window, static_cast<int>(row.id));
     switch (row.kind) {
     case RowKind::Check:
-    case RowKind::Flag:
+    case RowKind::Switch:
         SendMessage(control, BM_SETCHECK, IsShownChecked(row), 0);
         break;
     case RowKind::Choice:
@@ -163,7 +163,7 @@ void FormPage::SaveValues(HWND window, WPARAM) {
 void FormPage::SaveRow(HWND window, const FormRow& row) {
     switch (row.kind) {
     case RowKind::Check:
-    case RowKind::Flag:
+    case RowKind::Switch:
         SaveBox(window, row);
         break;
     case RowKind::Choice:

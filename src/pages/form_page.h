@@ -12,7 +12,7 @@
 
 enum class RowKind : uint8_t {
     Check,        // A box for a number that is 1 or 0; checked for 1.
-    Flag,         // The same, checked for any number but 0.
+    Switch,       // The same, but every number except 0 is on.
     Choice,       // A drop-down list that stores the index of its entry.
     Number,       // A drop-down list that stores the number its entry carries as data.
     Path,         // A path with a button to clear it and one to browse; four control ids.

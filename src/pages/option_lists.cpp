@@ -35,7 +35,6 @@ void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> list
     panel_.Create(page, font, firstPanelId, kTop);
     for (const OptionList& list : lists) {
         HWND control = CreateList(page, list.listId, font, kRowHeight);
-        ShowWindow(control, SW_HIDE);
         FillList(control, list.options);
     }
 }

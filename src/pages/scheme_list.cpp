@@ -11,6 +11,7 @@
 #include "shell/services/scaling.h"
 #include "shell/services/today_screen.h"
 #include "ui/controls.h"
+#include "ui/list_items.h"
 #include "ui/messages.h"
 
 namespace {
@@ -23,15 +24,6 @@ void InsertName(HWND list, int row, const WideString& name) {
     item.iItem = row;
     item.pszText = const_cast<wchar_t*>(name.CStr());
     SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
-}
-
-// The selected row, −1 for none. The selection mark outlives the selection.
-int SelectedRow(HWND list) {
-    const auto row = static_cast<int>(SendMessage(list, LVM_GETSELECTIONMARK, 0, 0));
-    if (row < 0) return -1;
-    const LRESULT state =
-        SendMessage(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED);
-    return state & LVIS_SELECTED ? row : -1;
 }
 
 WideString NameOfRow(HWND list, int row) {
@@ -75,6 +67,7 @@ void FillSchemeList(HWND list, HFONT font) {
     int row = 0;
     for (const WideString& name : SchemeFileNames())
         InsertName(list, row++, name);
+    FitColumn(list);
 }
 
 int SaveScheme(HWND owner, HWND nameBox, HWND list) {
@@ -90,6 +83,7 @@ int SaveScheme(HWND owner, HWND nameBox, HWND list) {
     WriteScheme(name.CStr(), categoryStore);
     name.Append(L".scm");
     InsertName(list, 0, name);
+    FitColumn(list);
     SetWindowText(nameBox, L"");
     ShowMessage(owner, IDS_SCHEME_SAVED, IDS_SCHEME_SAVED_CAPTION);
     return 1;
@@ -119,5 +113,6 @@ int DeleteScheme(HWND owner, HWND list) {
     if (row < 0) return 0;
     DeleteSchemeFile(NameOfRow(list, row).CStr());
     SendMessage(list, LVM_DELETEITEM, static_cast<WPARAM>(row), 0);
+    FitColumn(list);
     return 1;
 }

@@ -2,19 +2,15 @@
 
 #include <commctrl.h>
 
-#include "resource_ids.h"
-#include "settings/setting.h"
-#include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
+#include "ui/colour_box.h"
 #include "ui/key_navigation.h"
+#include "ui/list_selection.h"
+#include "ui/tab_strip.h"
 
 namespace {
-constexpr int kTabStripHeight = 22;
-// Sent to every new tab strip (CCM_SETVERSION); the meaning of the number is the platform's.
-constexpr UINT kTabStripVersionMessage = 0x2007;
-constexpr WPARAM kTabStripVersion = 524;
 constexpr int kSampleWidth = 44;
 constexpr int kSampleHeight = 20;
 constexpr DWORD kPageStyle = WS_POPUP | WS_VISIBLE | 0x800;
@@ -23,42 +19,12 @@ SettingsPage* PageOf(HWND window) {
     return reinterpret_cast<SettingsPage*>(GetWindowLongPtr(window, GWLP_USERDATA));
 }
 
-struct StripPlace {
-    int x;
-    int y;
-    int width;
-    int height;
-};
-
-StripPlace PlaceOfTabStrip(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {Scale(-2), client.bottom - Scale(kTabStripHeight) + 1, client.right + Scale(2),
-            Scale(kTabStripHeight) - 1};
-}
-
-void InsertTab(HWND strip, int index, const WideString& title) {
-    TCITEM item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = const_cast<wchar_t*>(title.CStr());
-    SendMessage(strip, TCM_INSERTITEM, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
-}
-
-void CreateTabStrip(SettingsPage& page, HWND window) {
+void CreateTabs(SettingsPage& page, HWND window) {
     if (page.GetTabCount() < 1) return;
-    const StripPlace place = PlaceOfTabStrip(window);
-    page.tabStrip =
-        CreateWindowEx(0, WC_TABCONTROL, L"", WS_CHILD | WS_VISIBLE | TCS_BOTTOM, place.x, place.y,
-                       place.width, place.height, window, nullptr, page.hInstance, nullptr);
+    page.tabStrip = CreateTabStrip(window, page.normalFont);
     if (!page.tabStrip) return;
-    SendMessage(page.tabStrip, kTabStripVersionMessage, kTabStripVersion, 0);
-    SendMessage(page.tabStrip, WM_SETFONT, reinterpret_cast<WPARAM>(page.normalFont), FALSE);
-    // Narrow tabs: as many captions as a page has must fit a screen of 240 units without arrows.
-    SendMessage(page.tabStrip, TCM_SETPADDING, 0, MAKELPARAM(Scale(3), ScaleY(3)));
-    SendMessage(page.tabStrip, TCM_SETMINTABWIDTH, 0, 0);
-    for (int i = 0; i < page.GetTabCount(); ++i) {
-        InsertTab(page.tabStrip, i, LanguageText(page.GetTabTitleId(i)));
-    }
+    for (int i = 0; i < page.GetTabCount(); ++i)
+        InsertTab(page.tabStrip, i, LanguageText(page.GetTabTitleId(i)).CStr());
 }
 
 void CreateEmptyMenuBar(SettingsPage& page, HWND window) {
@@ -75,7 +41,7 @@ LRESULT OnCreate(SettingsPage& page, HWND window) {
     page.activateInfo = {};
     page.activateInfo.cbSize = sizeof(page.activateInfo);
     CreateEmptyMenuBar(page, window);
-    CreateTabStrip(page, window);
+    CreateTabs(page, window);
     page.CreateControls(window);
     page.ShowTab(window, SW_SHOW);
     return 0;
@@ -97,10 +63,7 @@ LRESULT OnDestroy(SettingsPage& page, HWND window, WPARAM wParam) {
 }
 
 LRESULT OnPlaced(SettingsPage& page, HWND window) {
-    if (page.tabStrip) {
-        const StripPlace place = PlaceOfTabStrip(window);
-        MoveWindow(page.tabStrip, place.x, place.y, place.width, place.height, TRUE);
-    }
+    if (page.tabStrip) PlaceTabStrip(page.tabStrip);
     page.Layout(window);
     return 0;
 }
@@ -117,7 +80,7 @@ LRESULT OnNotification(SettingsPage& page, HWND window, WPARAM wParam, LPARAM lP
     default:
         page.OnNotify(window, WM_NOTIFY, wParam, header);
     }
-    return 0;
+    return DrawListSelection(*header);
 }
 
 // The main window closes and deletes the page inside this call: nothing may touch it after.
@@ -236,24 +199,12 @@ SettingsPage::~SettingsPage() {
 }
 
 int SettingsPage::CurrentTab() const {
-    return tabStrip ? static_cast<int>(SendMessage(tabStrip, TCM_GETCURSEL, 0, 0)) : 0;
+    return tabStrip ? SelectedTab(tabStrip) : 0;
 }
 
 void SettingsPage::DrawColourSample(HDC dc, COLORREF colour, int left, int top) const {
-    RECT box{left, top, left + Scale(kSampleWidth), top + Scale(kSampleHeight)};
-    FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    InflateRect(&box, -Scale(1), -Scale(1));
-    if (colour != kNoColour) {
-        const UniqueBrush brush(CreateSolidBrush(colour));
-        FillRect(dc, &box, brush.Get());
-        return;
-    }
-    FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-    const SelectScope font(dc, normalFont);
-    const int previousMode = SetBkMode(dc, TRANSPARENT);
-    DrawText(dc, LanguageText(IDS_COLOUR_NONE).CStr(), -1, &box,
-             DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-    SetBkMode(dc, previousMode);
+    DrawColourBox(dc, {left, top, left + Scale(kSampleWidth), top + Scale(kSampleHeight)}, colour,
+                  normalFont);
 }
 
 void CreatePageWindow(SettingsPage& page, HWND mainWindow, const wchar_t* className,

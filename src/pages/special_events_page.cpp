@@ -164,7 +164,7 @@ SpecialEventsPage::SpecialEventsPage() : FormPage(kTables) {}
 
 void SpecialEventsPage::LoadCustomRow(HWND window, const FormRow& row) {
     HWND combo = GetDlgItem(window, static_cast<int>(row.id));
-    AddEntry(combo, LanguageText(IDS_CHOICE_NONE).CStr());
+    AddEntry(combo, LanguageText(IDS_CHOICE_OFF).CStr());
     for (const auto& category : categoryStore.All())
         AddEntry(combo, category->name.CStr());
     const wchar_t* name = (settingsStore.*row.path).value.CStr();

@@ -44,7 +44,7 @@ void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
     for (uint32_t row = 0; row < kTitles; ++row) {
         const uint32_t stored = (settingsStore.*kPlaces[row]).value;
         const uint32_t title = stored < kTitles ? stored : row;
-        AddRow(list, LanguageText(kNames[title]).CStr(), title);
+        AddRow(list, LanguageText(kNames[title]).CStr(), static_cast<LPARAM>(title));
     }
     FitColumn(list);
     const UINT buttons[] = {IDS_MOVE_UP, IDS_MOVE_DOWN};
@@ -66,5 +66,6 @@ bool OnTitleOrderButton(HWND page, UINT firstId, UINT id) {
 void SaveTitleOrder(HWND page, UINT firstId) {
     HWND list = ListOf(page, firstId);
     for (uint32_t row = 0; list && row < kTitles; ++row)
-        (settingsStore.*kPlaces[row]).Set(RowData(list, static_cast<int>(row)));
+        (settingsStore.*kPlaces[row])
+            .Set(static_cast<uint32_t>(RowData(list, static_cast<int>(row))));
 }

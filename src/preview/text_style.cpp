@@ -21,19 +21,11 @@ LONG SafeHeight(uint32_t height) {
     return std::clamp(static_cast<LONG>(height), -highest, highest);
 }
 
-LONG SafeWeight(LONG weight) {
-    return std::clamp(weight, LONG{0}, LONG{1000});
-}
-
 LOGFONT FontOf(const SettingsStore& store, const FontSetting& own) {
     LOGFONT font{};
     font.lfWeight = FW_NORMAL;
     font.lfHeight = SafeHeight(store.FontGnrlSize.value);
-    if (store.FontGnrlUseAdvncd.value == 1) {
-        font = own.logFont;
-        font.lfHeight = SafeHeight(static_cast<uint32_t>(own.logFont.lfHeight));
-        font.lfWeight = SafeWeight(own.logFont.lfWeight);
-    }
+    if (store.FontGnrlUseAdvncd.value == 1) font = BoundedFont(own.logFont);
     // The settings themselves, since the fonts took them when they were loaded.
     font.lfQuality =
         store.ForceClearType.value != 0 ? kClearTypeQuality : static_cast<BYTE>(DEFAULT_QUALITY);
@@ -43,6 +35,13 @@ LOGFONT FontOf(const SettingsStore& store, const FontSetting& own) {
 }
 
 } // namespace
+
+LOGFONT BoundedFont(LOGFONT font) {
+    constexpr LONG kHeaviest = 1000;
+    font.lfHeight = SafeHeight(static_cast<uint32_t>(font.lfHeight));
+    font.lfWeight = std::clamp(font.lfWeight, LONG{0}, kHeaviest);
+    return font;
+}
 
 COLORREF ColourOr(uint32_t value, COLORREF builtIn) {
     return value == kNoColour ? builtIn : value & 0xFFFFFF;

@@ -9,6 +9,10 @@
 // give a colour another meaning to the platform.
 [[nodiscard]] COLORREF ColourOr(uint32_t value, COLORREF builtIn);
 
+// A font that the platform makes in no time: with heights and weights that the registry may hold,
+// but no letters can have, brought to what can be seen.
+[[nodiscard]] LOGFONT BoundedFont(LOGFONT font);
+
 // How a kind of item writes its texts, by the font and colour settings.
 struct TextStyle {
     LOGFONT font{};

@@ -69,6 +69,10 @@ void TabList::Number() {
         entry->order = ++number;
 }
 
+void TabList::Sort() {
+    std::ranges::stable_sort(entries_, ComesBefore);
+}
+
 const TabDefinition* TabList::FindNumber(uint32_t number) const {
     const auto found =
         std::ranges::find(entries_, number, [](const auto& entry) { return entry->order; });
@@ -95,7 +99,7 @@ void TabList::LoadHosted(HKEY tabKey) {
         entries_.push_back(ReadHosted(key.Get(), name));
     }
     hostedTabsAreKnown_ = allRead && status == ERROR_NO_MORE_ITEMS;
-    std::ranges::stable_sort(entries_, ComesBefore);
+    Sort();
 }
 
 void TabList::SaveHosted(HKEY tabKey) const {

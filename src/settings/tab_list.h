@@ -45,6 +45,8 @@ class TabList {
     void Clear() { entries_.clear(); }
     // Gives the entries the orders 1, 2, … as they stand.
     void Number();
+    // Puts the entries into their order again after it was changed.
+    void Sort();
 
     // The first tab of that number or type; null when there is none.
     [[nodiscard]] const TabDefinition* FindNumber(uint32_t number) const;

@@ -3,13 +3,16 @@
 #include <new>
 
 #include "pages/calendar_page.h"
+#include "pages/category_page.h"
+#include "pages/colours_page.h"
 #include "pages/contacts_page.h"
+#include "pages/fonts_page.h"
 #include "pages/general_page.h"
 #include "pages/messages_page.h"
 #include "pages/notes_page.h"
-#include "pages/outline_page.h"
 #include "pages/pim_page.h"
 #include "pages/special_events_page.h"
+#include "pages/tabs_page.h"
 #include "pages/tasks_page.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
@@ -26,12 +29,6 @@ SettingsPage* MakePage() {
     return new (std::nothrow) Page;
 }
 
-template <UINT... titles>
-SettingsPage* MakeOutline() {
-    static constexpr UINT kTitles[] = {titles...};
-    return new (std::nothrow) OutlinePage(kTitles);
-}
-
 constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_GENERAL, L"GeneralSettingsWin", MakePage<GeneralPage>},
     {IDS_PAGE_CALENDAR, L"CalendarSettingsWin", MakePage<CalendarPage>},
@@ -40,15 +37,11 @@ constexpr PageEntry kPages[kPageCount] = {
     {IDS_PAGE_CONTACTS, L"ContactSettingsWin", MakePage<ContactsPage>},
     {IDS_PAGE_MESSAGES, L"MessagesSettingsWin", MakePage<MessagesPage>},
     {IDS_PAGE_SPECIAL_EVENTS, L"SEventsSettingsWin", MakePage<SpecialEventsPage>},
-    {IDS_PAGE_FONTS, L"FontSettingsWin",
-     MakeOutline<IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_COLOURS>},
-    {IDS_PAGE_COLOURS, L"ColorSettingsWin",
-     MakeOutline<IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES>},
+    {IDS_PAGE_FONTS, L"FontSettingsWin", MakePage<FontsPage>},
+    {IDS_PAGE_COLOURS, L"ColorSettingsWin", MakePage<ColoursPage>},
     {IDS_PAGE_PIM, L"PIMSettingsWin", MakePage<PimPage>},
-    {IDS_PAGE_TABS, L"TabsSettingsWin",
-     MakeOutline<IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT>},
-    {IDS_PAGE_CATEGORY, L"CategorySettingsWin",
-     MakeOutline<IDS_TAB_CATEGORY_CATEGORIES, IDS_TAB_CATEGORY_FILTERS, IDS_TAB_MISCELLANEOUS>},
+    {IDS_PAGE_TABS, L"TabsSettingsWin", MakePage<TabsPage>},
+    {IDS_PAGE_CATEGORY, L"CategorySettingsWin", MakePage<CategoryPage>},
 };
 } // namespace
 

@@ -6,16 +6,26 @@
 
 HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
                    const ControlPlace& place, HFONT font) {
-    HWND control = CreateWindowEx(0, className, text, WS_CHILD | WS_VISIBLE | style, place.x,
-                                  place.y, place.width, place.height, parent,
-                                  reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
-                                  application.instance, nullptr);
+    return CreateHiddenControl(parent, className, text, style | WS_VISIBLE, id, place, font);
+}
+
+HWND CreateHiddenControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style,
+                         UINT id, const ControlPlace& place, HFONT font) {
+    HWND control = CreateWindowEx(
+        0, className, text, WS_CHILD | style, place.x, place.y, place.width, place.height, parent,
+        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), application.instance, nullptr);
     if (control) SendMessage(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     return control;
 }
 
 void PlaceControl(HWND control, const ControlPlace& place) {
-    if (control) MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
+    if (!control) return;
+    RECT now{};
+    GetWindowRect(control, &now);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&now), 2);
+    const RECT wanted = {place.x, place.y, place.x + place.width, place.y + place.height};
+    if (EqualRect(&now, &wanted)) return;
+    MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
 }
 
 WideString ControlText(HWND control, int limit) {
@@ -71,7 +81,10 @@ void EnableControlRange(HWND parent, UINT firstId, UINT lastId, bool enabled) {
 
 void ShowControlRange(HWND parent, UINT firstId, UINT lastId, int showCommand) {
     for (UINT id = firstId; id <= lastId; ++id) {
-        if (HWND control = GetDlgItem(parent, static_cast<int>(id)))
-            ShowWindow(control, showCommand);
+        HWND control = GetDlgItem(parent, static_cast<int>(id));
+        if (!control) continue;
+        // A call that changes nothing costs as much as one that does.
+        const bool isShown = GetWindowLong(control, GWL_STYLE) & WS_VISIBLE;
+        if (isShown != (showCommand != SW_HIDE)) ShowWindow(control, showCommand);
     }
 }

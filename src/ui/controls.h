@@ -20,6 +20,10 @@ struct ControlPlace {
 HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
                    const ControlPlace& place, HFONT font);
 
+// The same, not shown yet.
+HWND CreateHiddenControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style,
+                         UINT id, const ControlPlace& place, HFONT font);
+
 // Moves a control; null is passed over.
 void PlaceControl(HWND control, const ControlPlace& place);
 

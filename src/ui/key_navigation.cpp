@@ -5,9 +5,21 @@
 #include <initializer_list>
 
 #include "ui/button_strip.h"
+#include "ui/colour_surface.h"
 
 namespace {
-enum class ControlKind { Other, Button, ButtonStrip, Combo, Edit, ListView, ListBox, TabStrip };
+enum class ControlKind {
+    Other,
+    Button,
+    ButtonStrip,
+    ColourSurface,
+    Combo,
+    Edit,
+    ListView,
+    ListBox,
+    TabStrip,
+    TrackBar,
+};
 
 ControlKind KindOf(HWND control) {
     constexpr struct {
@@ -21,6 +33,8 @@ ControlKind KindOf(HWND control) {
         {L"ListBox", ControlKind::ListBox},
         {WC_TABCONTROL, ControlKind::TabStrip},
         {kButtonStripClass, ControlKind::ButtonStrip},
+        {kColourSurfaceClass, ControlKind::ColourSurface},
+        {TRACKBAR_CLASS, ControlKind::TrackBar},
     };
     wchar_t name[64];
     if (!GetClassName(control, name, 64)) return ControlKind::Other;
@@ -132,8 +146,17 @@ bool IsAtListEdge(HWND list, bool forward) {
     return next < 0 || next >= count;
 }
 
+// A key that the mark of a colour surface has no way for leaves it.
+bool OnSurfaceKey(HWND root, HWND surface, WPARAM key) {
+    if (!SendMessage(surface, kMessageStepColour, key, 0))
+        MoveFocus(root, surface, key == VK_DOWN || key == VK_RIGHT);
+    return true;
+}
+
 bool OnUpOrDown(HWND root, HWND control, bool forward) {
     const ControlKind kind = KindOf(control);
+    if (kind == ControlKind::ColourSurface)
+        return OnSurfaceKey(root, control, forward ? VK_DOWN : VK_UP);
     const bool isList = kind == ControlKind::ListView || kind == ControlKind::ListBox;
     if (kind == ControlKind::Other || (isList && !IsAtListEdge(control, forward))) return false;
     MoveFocus(root, control, forward);
@@ -153,6 +176,8 @@ bool OnLeftOrRight(HWND root, HWND control, HWND focus, bool forward) {
         if (!SendMessage(control, kMessageStepButton, forward, 0))
             MoveFocus(root, control, forward);
         return true;
+    case ControlKind::ColourSurface:
+        return OnSurfaceKey(root, control, forward ? VK_RIGHT : VK_LEFT);
     case ControlKind::Button:
         MoveFocus(root, control, forward);
         return true;

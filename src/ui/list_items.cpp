@@ -5,6 +5,7 @@
 #include <cwchar>
 
 #include "resource_ids.h"
+#include "shell/services/handles.h"
 #include "shell/services/scaling.h"
 #include "ui/controls.h"
 #include "ui/messages.h"
@@ -12,6 +13,7 @@
 namespace {
 constexpr int kFirstColumnWidth = 300;
 constexpr int kTextLimit = 1024; // Characters, with the NUL.
+constexpr UINT kTickedImage = 2; // The state image of a ticked box; that of an empty one is 1.
 
 // What moves with a row.
 struct Row {
@@ -45,6 +47,33 @@ void WriteRow(HWND list, int index, Row& row) {
     SendMessage(list, LVM_SETITEM, 0, reinterpret_cast<LPARAM>(&item));
 }
 
+// The platform's boxes, which would stand at the top of a higher row, in images as high as the
+// row's. Null on failure.
+HIMAGELIST CentreImages(HIMAGELIST boxes, HIMAGELIST rowImages) {
+    int width = 0;
+    int height = 0;
+    int unused = 0;
+    int rowHeight = 0;
+    if (!ImageList_GetIconSize(boxes, &width, &height) ||
+        !ImageList_GetIconSize(rowImages, &unused, &rowHeight))
+        return nullptr;
+    const int count = ImageList_GetImageCount(boxes);
+    HDC screen = GetDC(nullptr);
+    const UniqueDc dc(CreateCompatibleDC(screen));
+    const UniqueBitmap bitmap(CreateCompatibleBitmap(screen, count * width, rowHeight));
+    ReleaseDC(nullptr, screen);
+    {
+        const SelectScope selected(dc.Get(), bitmap.Get());
+        const RECT all{0, 0, count * width, rowHeight};
+        FillRect(dc.Get(), &all, GetSysColorBrush(COLOR_WINDOW));
+        for (int i = 0; i < count; ++i)
+            ImageList_Draw(boxes, i, dc.Get(), i * width, (rowHeight - height) / 2, ILD_NORMAL);
+    }
+    HIMAGELIST images = ImageList_Create(width, rowHeight, ILC_COLORDDB, count, 0);
+    ImageList_Add(images, bitmap.Get(), nullptr);
+    return images;
+}
+
 void SwapRows(HWND list, int first, int second) {
     Row rows[2];
     ReadRow(list, first, rows[0]);
@@ -53,19 +82,19 @@ void SwapRows(HWND list, int first, int second) {
     WriteRow(list, second, rows[0]);
 }
 
-void SetRowState(HWND list, int row, UINT state) {
+void SetRowState(HWND list, int row, UINT state, UINT mask = LVIS_SELECTED | LVIS_FOCUSED) {
     LVITEM item{};
     item.state = state;
-    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    item.stateMask = mask;
     SendMessage(list, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
 }
 } // namespace
 
 HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight) {
-    HWND list = CreateControl(parent, WC_LISTVIEW, L"",
-                              WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
-                                  LVS_NOCOLUMNHEADER | LVS_SHOWSELALWAYS,
-                              id, {}, font);
+    HWND list = CreateHiddenControl(parent, WC_LISTVIEW, L"",
+                                    WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
+                                        LVS_NOCOLUMNHEADER | LVS_SHOWSELALWAYS,
+                                    id, {}, font);
     SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     // Rows are one pixel higher than the small images, even where none shows. The list view
     // destroys the image list.
@@ -88,12 +117,12 @@ void FitColumn(HWND list) {
     SendMessage(list, LVM_SETCOLUMNWIDTH, 0, client.right);
 }
 
-void AddRow(HWND list, const wchar_t* text, uint32_t data) {
+void AddRow(HWND list, const wchar_t* text, LPARAM data) {
     LVITEM item{};
     item.mask = LVIF_TEXT | LVIF_PARAM;
     item.iItem = RowCount(list);
     item.pszText = const_cast<wchar_t*>(text);
-    item.lParam = static_cast<LPARAM>(data);
+    item.lParam = data;
     SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
 }
 
@@ -101,12 +130,34 @@ int RowCount(HWND list) {
     return static_cast<int>(SendMessage(list, LVM_GETITEMCOUNT, 0, 0));
 }
 
-uint32_t RowData(HWND list, int row) {
+LPARAM RowData(HWND list, int row) {
     LVITEM item{};
     item.mask = LVIF_PARAM;
     item.iItem = row;
     SendMessage(list, LVM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
-    return static_cast<uint32_t>(item.lParam);
+    return item.lParam;
+}
+
+void AddTickBoxes(HWND list) {
+    SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+    const auto images = [list](WPARAM kind) {
+        return reinterpret_cast<HIMAGELIST>(SendMessage(list, LVM_GETIMAGELIST, kind, 0));
+    };
+    UniqueImageList taller(CentreImages(images(LVSIL_STATE), images(LVSIL_SMALL)));
+    if (!taller) return;
+    const UniqueImageList platforms(reinterpret_cast<HIMAGELIST>(SendMessage(
+        list, LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(taller.Release()))));
+}
+
+bool IsRowTicked(HWND list, int row) {
+    const auto state = static_cast<UINT>(
+        SendMessage(list, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK));
+    return state == INDEXTOSTATEIMAGEMASK(kTickedImage);
+}
+
+void TickRow(HWND list, int row, bool ticked) {
+    SetRowState(list, row, INDEXTOSTATEIMAGEMASK(ticked ? kTickedImage : kTickedImage - 1),
+                LVIS_STATEIMAGEMASK);
 }
 
 int SelectedRow(HWND list) {

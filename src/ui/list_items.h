@@ -2,23 +2,26 @@
 
 #include <windows.h>
 
-#include <cstdint>
-
 // Lists of one column: report-mode list views without a header.
 
 // An empty list with rows `rowHeight` units high (a line of text alone is too low for a finger), of
-// which one can be selected. Null when the platform refuses.
+// which one can be selected, not shown yet. Null when the platform refuses.
 HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight);
 
 // Makes the column as wide as the list has room, so that no scroll bar lies below it. To be called
 // whenever the list's size or number of rows changed.
 void FitColumn(HWND list);
 
-// Adds a row at the end, with a number as its data.
-void AddRow(HWND list, const wchar_t* text, uint32_t data = 0);
+// Adds a row at the end, with a number or a pointer as its data.
+void AddRow(HWND list, const wchar_t* text, LPARAM data = 0);
 
 [[nodiscard]] int RowCount(HWND list);
-[[nodiscard]] uint32_t RowData(HWND list, int row);
+[[nodiscard]] LPARAM RowData(HWND list, int row);
+
+// Gives every row a box to tick, in the middle of its height.
+void AddTickBoxes(HWND list);
+[[nodiscard]] bool IsRowTicked(HWND list, int row);
+void TickRow(HWND list, int row, bool ticked);
 
 // −1 for none.
 [[nodiscard]] int SelectedRow(HWND list);

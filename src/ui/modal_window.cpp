@@ -3,87 +3,62 @@
 #include "shell/services/application.h"
 #include "shell/services/window_class.h"
 #include "ui/controls.h"
-#include "ui/key_navigation.h"
+#include "ui/list_selection.h"
 
 namespace {
-// The navigation bar shows the title of the program's main window; a full-screen window over it
-// lends it its own.
+// The navigation bar shows the title of the program's main window, or that of a dialog which owns
+// the window; a full-screen window over them lends them its own.
 class TitleScope {
   public:
-    TitleScope(HWND owner, const wchar_t* title) {
-        for (HWND window = owner; window; window = GetParent(window))
-            main_ = window;
-        previous_ = ControlText(main_);
+    TitleScope(HWND owner, const wchar_t* title) : owner_(owner), main_(owner) {
+        while (HWND above = GetParent(main_))
+            main_ = above;
+        ownersTitle_ = ControlText(owner_);
+        mainTitle_ = ControlText(main_);
+        SetWindowText(owner_, title);
         SetWindowText(main_, title);
     }
     TitleScope(const TitleScope&) = delete;
     TitleScope& operator=(const TitleScope&) = delete;
-    ~TitleScope() { SetWindowText(main_, previous_.CStr()); }
+    ~TitleScope() {
+        SetWindowText(owner_, ownersTitle_.CStr());
+        SetWindowText(main_, mainTitle_.CStr());
+    }
 
   private:
-    HWND main_ = nullptr;
-    WideString previous_;
+    HWND owner_;
+    HWND main_;
+    WideString ownersTitle_;
+    WideString mainTitle_;
 };
 } // namespace
 
 void ModalWindow::OnNotify(HWND, const NMHDR&) {}
 
-bool ModalWindow::OnKey(HWND, const MSG&) {
-    return false;
-}
+void ModalWindow::OnScroll(HWND, HWND) {}
 
 void ModalWindow::Layout(HWND) {}
 
 void ModalWindow::OnPaint(HWND, HDC) {}
 
-void ModalWindow::Finish(int answer) {
-    answer_ = answer;
-    // Wakes the loop where the answer came by a sent message, which GetMessage does not return for.
-    PostMessage(nullptr, WM_NULL, 0, 0);
-}
-
 int ModalWindow::Run(HWND owner, const wchar_t* className, const wchar_t* title) {
-    answer_ = 0;
     RegisterWindowClass(application.instance, WindowProc, nullptr, className, WHITE_BRUSH);
     RECT place{};
     GetWindowRect(owner, &place);
-    window_ = CreateWindowEx(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), className, title,
-                             WS_POPUP | WS_VISIBLE, place.left, place.top, place.right - place.left,
-                             place.bottom - place.top, owner, nullptr, application.instance, this);
-    if (!window_) return IDCANCEL;
-    const TitleScope shownTitle(owner, title);
-    EnableWindow(owner, FALSE);
-    if (!IsChild(window_, GetFocus())) FocusFirstControl(window_);
-    RunLoop();
-    // The owner is enabled first, or the platform would activate some other program's window.
-    EnableWindow(owner, TRUE);
-    if (window_) DestroyWindow(window_);
-    SetForegroundWindow(owner);
-    UnregisterClass(className, application.instance);
-    return answer_;
-}
-
-void ModalWindow::RunLoop() {
-    MSG message;
-    while (!answer_) {
-        if (!GetMessage(&message, nullptr, 0, 0)) {
-            PostQuitMessage(
-                static_cast<int>(message.wParam)); // For the loop that this one stands in.
-            Finish(IDCANCEL);
-            break;
-        }
-        if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
-            SendMessage(window_, WM_COMMAND, IDCANCEL, 0);
-        else if (!(message.message == WM_KEYDOWN && OnKey(window_, message)) &&
-                 !TranslateNavigationKey(window_, message)) {
-            TranslateMessage(&message);
-            DispatchMessage(&message);
-        }
+    HWND window =
+        CreateWindowEx(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), className, title,
+                       WS_POPUP | WS_VISIBLE, place.left, place.top, place.right - place.left,
+                       place.bottom - place.top, owner, nullptr, application.instance, this);
+    int answer = IDCANCEL;
+    if (window) {
+        const TitleScope shownTitle(owner, title);
+        answer = RunOver(owner, window);
     }
+    UnregisterClass(className, application.instance);
+    return answer;
 }
 
 void ModalWindow::OnCreate(HWND window) {
-    window_ = window;
     activateInfo_ = {};
     activateInfo_.cbSize = sizeof(activateInfo_);
     SHMENUBARINFO info{};
@@ -115,6 +90,9 @@ LRESULT ModalWindow::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
         return 0;
     case WM_NOTIFY:
         OnNotify(window, *reinterpret_cast<const NMHDR*>(lParam));
+        return DrawListSelection(*reinterpret_cast<const NMHDR*>(lParam));
+    case WM_HSCROLL:
+        OnScroll(window, reinterpret_cast<HWND>(lParam));
         return 0;
     case WM_PAINT: {
         PAINTSTRUCT paint;
@@ -126,8 +104,7 @@ LRESULT ModalWindow::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
         Finish(IDCANCEL);
         return 0;
     case WM_DESTROY:
-        window_ = nullptr;
-        if (!answer_) Finish(IDCANCEL);
+        OnDestroyed();
         return 0;
     default:
         return DefWindowProc(window, message, wParam, lParam);

@@ -36,9 +36,9 @@ void RowLayout::Skip(int units) {
 void RowLayout::Put(const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
                     const ControlPlace& place) {
     if (HWND control = GetDlgItem(page_, static_cast<int>(id)))
-        MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
+        PlaceControl(control, place);
     else
-        CreateControl(page_, className, text, style, id, place, font_);
+        CreateHiddenControl(page_, className, text, style, id, place, font_);
 }
 
 void RowLayout::PutEdit(UINT id, int limit, const ControlPlace& place) {

@@ -36,8 +36,22 @@ constexpr int kTasks = 2;
 constexpr int kNotes = 3;
 constexpr int kContacts = 4;
 constexpr int kPim = 9;
-constexpr UINT kSkinBrowse = 1214;
 constexpr UINT kRemoveFolder = 1216;
+constexpr int kTabs = 10;
+constexpr UINT kSkinBrowse = 1214;
+constexpr UINT kTabList = 1206;
+constexpr UINT kAddTab = 1209;
+constexpr UINT kPluginList = 473;
+constexpr int kFonts = 7;
+constexpr int kColours = 8;
+constexpr int kCategory = 11;
+constexpr int kEditButton = 1210; // Of the Fonts page.
+constexpr int kFontItems = 1211;
+constexpr int kEditColour = 1200;
+constexpr int kColourItems = 1201;
+constexpr int kFontSetColour = 479;
+constexpr int kRedEdit = 126;
+constexpr int kHtmlEdit = 130;
 
 void Show(const char* name) {
     constexpr DWORD kPaintTime = 150; // Milliseconds; paints come when all else is done.
@@ -53,12 +67,16 @@ void Close(HWND window, int answer) {
     WaitUntil([window] { return !IsWindow(window); });
 }
 
-void ShowDialogs(const Program& program, HWND page) {
-    TapOn(GetDlgItem(page, kSkinBrowse));
-    if (HWND dialog = program.WaitForWindow(L"SelectFolderWin")) {
-        Show("dialog-folder");
+void ShowDialogOf(const Program& program, HWND button, const wchar_t* className, const char* name) {
+    TapOn(button);
+    if (HWND dialog = program.WaitForWindow(className)) {
+        Show(name);
         Close(dialog, IDCANCEL);
     }
+}
+
+void ShowDialogs(const Program& program, HWND page) {
+    ShowDialogOf(program, GetDlgItem(page, kSkinBrowse), L"SelectFolderWin", "dialog-folder");
 }
 
 // The menu of the first chooser and the tooltip of a button, both reached by keys.
@@ -121,6 +139,110 @@ void ShowMessageBox(const Program& program, const char* name) {
     }
 }
 
+// The box that opens over a dialog, both of which are dialogs to the platform.
+void ShowQuestion(HWND dialog, const char* name) {
+    PostMessage(dialog, WM_COMMAND, IDOK, 0);
+    WaitUntil([dialog] { return GetLastActivePopup(dialog) != dialog; });
+    HWND question = GetLastActivePopup(dialog);
+    Show(name);
+    PostMessage(question, WM_COMMAND, IDNO, 0);
+    WaitUntil([dialog] { return !IsWindow(dialog); });
+}
+
+// A plug-in's tab selected, the dialog that adds one, its list, and the question about a plug-in
+// that is on the Today screen.
+void ShowAddTab(const Program& program, HWND page) {
+    TapOn(GetDlgItem(page, kTabList));
+    constexpr int kPluginRow = 3;
+    Press(VK_HOME);
+    for (int row = 0; row < kPluginRow; ++row)
+        Press(VK_DOWN);
+    Show("page-10-tabs-2-selected");
+    TapOn(GetDlgItem(page, kAddTab));
+    HWND dialog = program.WaitForWindow(L"#32770");
+    if (!dialog) return;
+    Show("dialog-add-tab");
+    Press(VK_RETURN);
+    Show("dialog-add-tab-list");
+    Press(VK_ESCAPE);
+    constexpr WPARAM kEnabledPlugin = 1;
+    SendDlgItemMessage(dialog, kPluginList, CB_SETCURSEL, kEnabledPlugin, 0);
+    ShowQuestion(dialog, "question-add-tab");
+}
+
+// Selects a row by a tap on the first one and by keys.
+void SelectRow(HWND list, int row) {
+    RECT place{};
+    GetWindowRect(list, &place);
+    TapAt(place.left + 20, place.top + 8);
+    for (int i = 0; i < row; ++i)
+        Press(VK_DOWN);
+}
+
+void ShowPicker(const Program& program) {
+    HWND picker = program.WaitForWindow(L"ColourPickerWin");
+    if (!picker) return;
+    Show("picker-field");
+    HWND strip = FindWindowEx(picker, nullptr, WC_TABCONTROL, nullptr);
+    SendMessage(strip, TCM_SETCURFOCUS, 1, 0);
+    TapOn(GetDlgItem(picker, kHtmlEdit));
+    Show("picker-values");
+    SendDlgItemMessage(picker, kRedEdit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"7"));
+    Show("picker-changed");
+    // The button in the middle of the bar raises the input panel.
+    TapAt(GetSystemMetrics(SM_CXSCREEN) / 2, GetSystemMetrics(SM_CYSCREEN) - 8);
+    Show("picker-panel");
+    Close(picker, IDCANCEL);
+}
+
+void ShowFontItem(const Program& program, HWND page) {
+    SelectRow(GetDlgItem(page, kFontItems), 2);
+    Show("fonts-item");
+    TapOn(GetDlgItem(page, kEditButton));
+    HWND dialog = program.WaitForMessageBox();
+    if (!dialog) return;
+    Show("dialog-font-style");
+    TapOn(GetDlgItem(dialog, kFontSetColour));
+    ShowPicker(program);
+    Close(dialog, IDCANCEL);
+    Press(VK_F1);
+    Show("menu-fonts");
+    Press(VK_ESCAPE);
+    Press(VK_ESCAPE);
+}
+
+void ShowColourItem(const Program& program, HWND page) {
+    SelectRow(GetDlgItem(page, kColourItems), 1);
+    Show("colours-item");
+    TapOn(GetDlgItem(page, kEditColour));
+    if (HWND picker = program.WaitForWindow(L"ColourPickerWin")) {
+        Show("picker-colour");
+        Close(picker, IDCANCEL);
+    }
+}
+
+// Taps the second category, so that it can be given an icon and a colour.
+void ShowCategoryDialogs(const Program& program, HWND page) {
+    HWND list = GetDlgItem(page, 1200);
+    RECT place{};
+    GetWindowRect(list, &place);
+    HWND iconButton = GetDlgItem(page, 1201);
+    TapAt(place.left + (place.right - place.left) / 3, place.top + (place.bottom - place.top) / 4);
+    WaitUntil([iconButton] { return IsWindowEnabled(iconButton) != FALSE; });
+    Show("category-selected");
+    ShowDialogOf(program, iconButton, L"ImagePickerWin", "dialog-icon");
+    ShowDialogOf(program, GetDlgItem(page, 1202), L"ColourPickerWin", "dialog-colour");
+}
+
+void ShowFilterDialogs(const Program& program, HWND page) {
+    HWND filters = GetDlgItem(page, 1204);
+    TapOn(filters);
+    Show("category-filters");
+    Press(VK_ESCAPE);
+    WaitUntil([filters] { return !SendMessage(filters, CB_GETDROPPEDSTATE, 0, 0); });
+    ShowDialogOf(program, GetDlgItem(page, 1205), L"#32770", "dialog-filter-name");
+}
+
 bool ShowPage(const Program& program, HWND main, int row) {
     HWND page = program.OpenPage(row, kPages[row].className);
     if (!page) return false;
@@ -134,6 +256,9 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kGeneral && tab == 1) ShowDialogs(program, page);
         if (row == kCalendar) ShowOptions(tab);
         if (row == kCalendar && tab == 3) ShowOpenChoice();
+        if (row == kTabs && tab == 1) ShowAddTab(program, page);
+        if (row == kFonts && tab == 1) ShowFontItem(program, page);
+        if (row == kColours && tab == 0) ShowColourItem(program, page);
         if (row == kTasks && tab == 2) ShowIconChooser(page);
         if (row == kNotes && tab == 3) {
             TapOn(GetDlgItem(page, kRemoveFolder));
@@ -149,6 +274,8 @@ bool ShowPage(const Program& program, HWND main, int row) {
             Press(VK_LEFT); // From the application that is installed to the one that is not.
             ShowMessageBox(program, "message-not-installed");
         }
+        if (row == kCategory && tab == 0) ShowCategoryDialogs(program, page);
+        if (row == kCategory && tab == 1) ShowFilterDialogs(program, page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
     return WaitUntil([page] { return !IsWindow(page); });

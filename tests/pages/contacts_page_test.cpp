@@ -10,6 +10,7 @@
 #include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
 #include "ui/key_navigation.h"
+#include "ui/list_items.h"
 
 namespace {
 constexpr wchar_t kContacts[] = L"Software\\Teskel\\Orvane\\Contacts";
@@ -40,20 +41,8 @@ class ContactsPageTest : public PageFixture {
 
     HWND List() const { return GetDlgItem(page_->hwnd, kList); }
 
-    bool IsTicked(int row) const {
-        const LRESULT state =
-            SendMessage(List(), LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK);
-        return static_cast<UINT>(state) == INDEXTOSTATEIMAGEMASK(2);
-    }
-
-    // As by a tap on a row's box.
-    void Tick(int row, bool isTicked) const {
-        LVITEM item{};
-        item.state = INDEXTOSTATEIMAGEMASK(isTicked ? 2U : 1U);
-        item.stateMask = LVIS_STATEIMAGEMASK;
-        SendMessage(List(), LVM_SETITEMSTATE, static_cast<WPARAM>(row),
-                    reinterpret_cast<LPARAM>(&item));
-    }
+    bool IsTicked(int row) const { return IsRowTicked(List(), row); }
+    void Tick(int row, bool isTicked) const { TickRow(List(), row, isTicked); }
 
     std::unique_ptr<InstallFolder> folder_;
 };

@@ -84,7 +84,7 @@ TEST_F(SpecialEventsPageTest, CategoriesAreKeptByName) {
     SetText(HKEY_CURRENT_USER, kEvents, L"AdditionalFilterCat2", L"wORK");
     SetText(HKEY_CURRENT_USER, kEvents, L"AdditionalFilterCat4", L"Family");
     HWND window = OpenWith("1\t0\tWork\n2\t0\tFamily\n3\t0\tBirthday & more\n");
-    const std::wstring none = LanguageText(IDS_CHOICE_NONE).CStr();
+    const std::wstring none = LanguageText(IDS_CHOICE_OFF).CStr();
     EXPECT_EQ(EntriesOf(GetDlgItem(window, 1213)), none + L"|Birthday & more|Family|Work");
     const int shown[] = {0, 3, 0, 2};
     for (int i = 0; i < 4; ++i) {

@@ -225,6 +225,13 @@ const WidthLimit kLabelLimits[] = {
       IDS_TITLES_BREAK_LINE,
       IDS_TITLES_FOLD_START,
       IDS_TASKS_CUSTOM_DATE_SHOW,
+      IDS_FONTS_SIZE,
+      IDS_FONTS_TITLE_SIZE,
+      IDS_FONTS_FACE,
+      IDS_FONTS_SHADOW,
+      IDS_FONT_STYLE_SIZE,
+      IDS_FONT_STYLE_COLOUR,
+      IDS_FONTS_COLOUR,
       IDS_CALENDAR_DAYS,
       IDS_CALENDAR_WEEKS,
       IDS_CALENDAR_TEXT_COLOUR,
@@ -232,7 +239,12 @@ const WidthLimit kLabelLimits[] = {
       IDS_CALENDAR_BARS,
       IDS_CALENDAR_CONFLICTS,
       IDS_CALENDAR_WEATHER_LAYOUT,
-      IDS_CALENDAR_WEATHER_TAP}},
+      IDS_CALENDAR_WEATHER_TAP,
+      IDS_TABS_MODE,
+      IDS_TABS_GESTURES,
+      IDS_TABS_EFFECT,
+      IDS_TABS_TIME_OUT,
+      IDS_TABS_DEFAULT}},
     {"label above a text", 98, {IDS_TASKS_CUSTOM_DATE_START, IDS_TASKS_CUSTOM_DATE_DUE}},
     {"label of an icon chooser",
      62,
@@ -245,10 +257,10 @@ const WidthLimit kLabelLimits[] = {
       IDS_ICON_CATEGORY}},
     {"label on a line of its own",
      200,
-     {IDS_GENERAL_SKIN_PATH, IDS_NOTES_FOLDERS, IDS_CONTACTS_ALPHABETS}},
+     {IDS_GENERAL_SKIN_PATH, IDS_CATEGORY_ICONS_FOLDER, IDS_NOTES_FOLDERS, IDS_CONTACTS_ALPHABETS}},
     {"button of a file dialog", 100, {IDS_FOLDER_UP, IDS_CANCEL}},
     {"label in a file dialog", 42, {IDS_FILE_NAME, IDS_FILE_TYPE}},
-    {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY}},
+    {"text in an empty list", 214, {IDS_FOLDER_EMPTY, IDS_FILE_EMPTY, IDS_ICON_PICKER_EMPTY}},
     {"check box",
      198,
      {IDS_TAP_OPENS,
@@ -294,10 +306,17 @@ const WidthLimit kLabelLimits[] = {
       IDS_TASKS_HIDE_UNDATED,
       IDS_TITLES_FOLDING,
       IDS_TITLES_COUNTERS,
-      IDS_TASKS_CUSTOM_DATE}},
+      IDS_TASKS_CUSTOM_DATE,
+      IDS_TABS_DEFAULT_ON_STARTUP,
+      IDS_FONTS_PER_ITEM,
+      IDS_FONTS_CLEAR_TYPE,
+      IDS_FONT_STYLE_BOLD,
+      IDS_FONT_STYLE_ITALIC,
+      IDS_FONT_STYLE_UNDERLINE,
+      IDS_FONT_STYLE_STRIKE_OUT}},
     {"choice of a combo",
      100,
-     {IDS_CHOICE_NONE,
+     {IDS_CHOICE_OFF,
       IDS_DPAD_OPEN,
       IDS_DPAD_MENU,
       IDS_NAME_AS_FILED,
@@ -357,12 +376,30 @@ const WidthLimit kLabelLimits[] = {
       IDS_TASKS_CUSTOM_DATE_SHOW_START,
       IDS_TASKS_CUSTOM_DATE_SHOW_DUE,
       IDS_TASKS_CUSTOM_DATE_SHOW_BOTH,
+      IDS_FONTS_SHADOW_NONE,
+      IDS_FONTS_SHADOW_BELOW_RIGHT,
+      IDS_FONTS_SHADOW_BELOW_LEFT,
+      IDS_FONTS_SHADOW_ABOVE_RIGHT,
+      IDS_FONTS_SHADOW_ABOVE_LEFT,
       IDS_DASHBOARD_TAB_TASKS,
       IDS_DASHBOARD_TAB_NOTES,
       IDS_DASHBOARD_TAB_CONTACTS,
       IDS_DASHBOARD_TAB_MAIL,
       IDS_DASHBOARD_TAB_SPECIAL_EVENTS,
-      IDS_DASHBOARD_TAB_CALENDAR}},
+      IDS_DASHBOARD_TAB_CALENDAR,
+      IDS_TABS_MODE_ICONS,
+      IDS_TABS_MODE_NAMES,
+      IDS_TABS_GESTURES_OFF,
+      IDS_TABS_GESTURES_BAR,
+      IDS_TABS_GESTURES_ANYWHERE,
+      IDS_TABS_EFFECT_NONE,
+      IDS_TABS_EFFECT_SLIDE,
+      IDS_TABS_TIME_OUT_10_SECONDS,
+      IDS_TABS_TIME_OUT_30_SECONDS,
+      IDS_TABS_TIME_OUT_1_MINUTE,
+      IDS_TABS_TIME_OUT_5_MINUTES,
+      IDS_TABS_TIME_OUT_15_MINUTES,
+      IDS_TABS_TIME_OUT_1_HOUR}},
     {"choice of an option",
      97,
      {IDS_CALENDAR_WEEKS_DEVICE,
@@ -429,7 +466,30 @@ const WidthLimit kLabelLimits[] = {
     {"unit of a reminder behind its number",
      82,
      {IDS_PIM_MINUTES, IDS_PIM_HOUR, IDS_PIM_HOURS, IDS_PIM_DAY}},
-    {"button beside a path", 36, {IDS_CLEAR, IDS_BROWSE}},
+    {"button beside the list of tabs", 68, {IDS_TABS_ADD, IDS_TABS_REMOVE}},
+    {"label above a list", 214, {IDS_TABS_PLUGIN}},
+    {"button beside a path or a swatch",
+     36,
+     {IDS_CLEAR, IDS_BROWSE, IDS_FONTS_EDIT, IDS_FONT_STYLE_SET, IDS_COLOURS_EDIT}},
+    {"button of the schemes", 74, {IDS_COLOURS_LOAD, IDS_COLOURS_DELETE, IDS_COLOURS_SAVE}},
+    {"button of the colour picker", 54, {IDS_PICKER_DEFAULT, IDS_CANCEL}},
+    {"label in the colour picker",
+     40,
+     {IDS_PICKER_RED, IDS_PICKER_GREEN, IDS_PICKER_BLUE, IDS_PICKER_HTML}},
+    {"label of the picker's sample", 78, {IDS_PICKER_SELECTED}},
+    {"button of half the width",
+     100,
+     {IDS_CATEGORY_ICON, IDS_CATEGORY_COLOUR, IDS_ICON_PICKER_NONE}},
+    {"button of a quarter of a wide page", 74, {IDS_FILTER_TICK_ALL, IDS_FILTER_TICK_NONE}},
+    {"button beside the filters", 66, {IDS_FILTER_RENAME}},
+    {"label of the filters", 36, {IDS_FILTER}},
+    {"label on half a wide page", 62, {IDS_FILTER_SENSITIVITY}},
+    {"choice on half a wide page",
+     78,
+     {IDS_FILTER_SENSITIVITY_ALL, IDS_FILTER_SENSITIVITY_PUBLIC, IDS_FILTER_SENSITIVITY_PRIVATE}},
+    {"check box on half a wide page", 146, {IDS_FILTER_VISIBLE, IDS_FILTER_UNCATEGORIZED}},
+    {"text of the filter-name dialog", 204, {IDS_FILTER_NAME}},
+    {"button of the filter-name dialog", 72, {IDS_FILTER_NAME_OK, IDS_FILTER_NAME_CANCEL}},
     {"colour swatch", 40, {IDS_COLOUR_NONE}},
 };
 
@@ -456,6 +516,7 @@ const WidthLimit kTabStripLimits[] = {
     {"Fonts, one for all items", 200, {IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_COLOURS}},
     {"Fonts, one per item", 200, {IDS_TAB_FONTS_GENERAL, IDS_TAB_FONTS_ITEM_FONTS}},
     {"Colours", 200, {IDS_TAB_COLOURS_ITEMS, IDS_TAB_COLOURS_SCHEMES}},
+    {"the colour picker", 200, {IDS_PICKER_TAB_FIELD, IDS_PICKER_TAB_VALUES}},
     {"PIM", 200, {IDS_TAB_PIM_APPLICATION, IDS_TAB_PIM_OPTIONS}},
     {"Tabs", 200, {IDS_TAB_GENERAL, IDS_TAB_TABS_ORDER, IDS_TAB_TABS_DEFAULT}},
     {"Categories",
@@ -506,6 +567,36 @@ TEST_F(LanguageLibraries, FitOptionsAndTheirPanel) {
         }
     }
     EXPECT_GE(options, 2 * 52);
+}
+
+// What is above a sample, and the rows of the list below it, whose scroll bar takes 16 pixels.
+TEST_F(LanguageLibraries, DescribeFontsAndColoursInTheirPlaces) {
+    constexpr int kLine = 220;
+    constexpr int kListRow = kLine - 16 - 12;
+    const TextMeasure normal(FW_DONTCARE);
+    for (const Language& language : languages_) {
+        const auto width = [&](UINT id) { return normal.Width(Text(language.library.Get(), id)); };
+        const int header = std::max(width(IDS_FONTS_HEADER_FONT), width(IDS_FONTS_HEADER_COLOUR));
+        for (UINT id = IDS_FONT_GENERAL_ABOUT; id <= IDS_FONT_EVENTS_4_ABOUT; ++id)
+            EXPECT_LE(header + width(id), kLine) << language.file << " " << id;
+        for (const UINT id :
+             {IDS_FONT_NOTES, IDS_FONT_NOTES_TITLES, IDS_FONT_CONTACTS, IDS_FONT_CONTACTS_TITLES,
+              IDS_FONT_MESSAGES_UNREAD, IDS_FONT_MESSAGES_READ, IDS_FONT_MESSAGES_TITLES,
+              IDS_FONT_EVENTS_TITLES_ABOUT})
+            EXPECT_LE(header + width(id), kLine) << language.file << " " << id;
+        for (UINT id = IDS_FONT_GENERAL; id <= IDS_FONT_EVENTS_4; ++id)
+            EXPECT_LE(width(id), kListRow) << language.file << " " << id;
+        for (UINT id = IDS_COLOUR_SEPARATOR; id <= IDS_COLOUR_STATUS_OUT_OF_OFFICE; ++id)
+            EXPECT_LE(width(id), kListRow) << language.file << " " << id;
+        EXPECT_LE(width(IDS_FONT_EVENTS_TITLES), kListRow) << language.file;
+        const auto lines = [&](UINT id) {
+            return WrappedLines(Text(language.library.Get(), id), normal, kLine).size();
+        };
+        EXPECT_LE(lines(IDS_COLOURS_SCHEMES), 3U) << language.file;
+        for (UINT id = IDS_COLOUR_SEPARATOR_ABOUT; id <= IDS_COLOUR_STATUS_OUT_OF_OFFICE_ABOUT;
+             ++id)
+            EXPECT_LE(lines(id), 3U) << language.file << " " << id;
+    }
 }
 
 TEST_F(LanguageLibraries, NamePagesInAtMostTwoLines) {
@@ -584,6 +675,29 @@ TEST_F(LanguageLibraries, HoldTheMainMenu) {
         ExpectDistinctMnemonics(menu.Get(), language.file);
         ExpectDistinctMnemonics(first, language.file);
         ExpectDistinctMnemonics(second, language.file);
+    }
+}
+
+TEST_F(LanguageLibraries, HoldTheMenuOfTheFontsPage) {
+    for (const Language& language : languages_) {
+        UniqueMenu menu(LoadMenuW(language.library.Get(), MAKEINTRESOURCEW(IDM_FONTS)));
+        ASSERT_TRUE(menu) << language.file;
+        ExpectDistinctMnemonics(menu.Get(), language.file);
+        EXPECT_EQ(Commands(GetSubMenu(menu.Get(), 0)), (std::vector<UINT>{IDC_SAME_SIZE}));
+    }
+}
+
+TEST_F(LanguageLibraries, HoldTheFilterNameDialog) {
+    for (const Language& language : languages_) {
+        HMODULE library = language.library.Get();
+        HRSRC found = FindResourceW(library, MAKEINTRESOURCEW(IDD_FILTER_NAME), RT_DIALOG);
+        ASSERT_TRUE(found) << language.file;
+        const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(library, found));
+        HWND dialog = CreateDialogIndirectW(nullptr, form, nullptr, nullptr);
+        ASSERT_TRUE(dialog) << language.file;
+        for (const int id : {419, 1590, IDOK, IDCANCEL})
+            EXPECT_TRUE(GetDlgItem(dialog, id)) << language.file << " " << id;
+        DestroyWindow(dialog);
     }
 }
 

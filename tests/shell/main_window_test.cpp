@@ -1,16 +1,20 @@
 #include "shell/main_window.h"
 
+#include <aygshell.h>
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "files/icon_set.h"
 #include "resource_ids.h"
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
 #include "shell/services/application.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "tests/support/dialog_steps.h"
+#include "tests/support/install_folder.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
 
@@ -114,6 +118,15 @@ TEST_F(MainWindowTest, ListsTheTwelvePagesAndOpensEach) {
     EXPECT_EQ(CreatePage(window_, kPageCount), nullptr);
 }
 
+TEST_F(MainWindowTest, HoldsTheBuiltInIconSetWhileItLives) {
+    Start();
+    EXPECT_TRUE(iconSet[IconSymbol::Note].bitmap && iconSet[IconSymbol::AttachedIcon].bitmap);
+    EXPECT_TRUE(application.imagingFactory);
+    DestroyWindow(window_);
+    EXPECT_FALSE(iconSet[IconSymbol::Note].bitmap || iconSet[IconSymbol::AttachedIcon].bitmap);
+    EXPECT_FALSE(application.imagingFactory);
+}
+
 TEST_F(MainWindowTest, LeavesRoomForItsMenuBar) {
     Start();
     RECT place{};
@@ -148,6 +161,45 @@ TEST_F(MainWindowTest, FirstOkClosesThePageSecondSavesTellsAndQuits) {
     EXPECT_EQ(timesTold, 1);
     EXPECT_TRUE(valueWasWritten);
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"GoofyMode"), 1u);
+}
+
+// A scheme replaces the settings below the open page.
+TEST_F(MainWindowTest, ALoadedSchemeLeadsBackToThePageList) {
+    constexpr wchar_t kColourKey[] = L"Software\\Teskel\\Orvane\\Colors";
+    constexpr int kColoursRow = 8;
+    constexpr int kSchemes = 1204;
+    constexpr int kLoadScheme = 1205;
+    const InstallFolder folder;
+    folder.Write(L"Schemes\\Dusk.scm",
+                 "\r\n[Software\\Teskel\\Orvane\\Colors]\r\n\"GeneralFontColor\"=dword:4660\r\n");
+    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile",
+            L"\\Program Files\\Teskel\\Orvane\\LangRes\\OVEngRc.dll");
+    SetNumber(HKEY_CURRENT_USER, kColourKey, L"HighlightBgClr", 1);
+    Start();
+    const std::wstring captions = RowsOf(list_);
+    HWND page = OpenPage(kColoursRow);
+    settingsStore.GeneralFontColor.Set(2);
+    SelectRow(GetDlgItem(page, kSchemes), L"Dusk.scm");
+    {
+        const MessageBoxAnswer yes(IDYES);
+        Tap(page, kLoadScheme);
+        EXPECT_EQ(yes.text, LanguageText(IDS_SCHEME_LOAD_QUESTION).CStr());
+    }
+    PumpMessages();
+    EXPECT_FALSE(IsWindow(page));
+    EXPECT_EQ(ActiveRoot(window_), window_);
+    EXPECT_EQ(TextOf(window_), L"OV Options");
+    EXPECT_EQ(RowsOf(list_), captions);
+    EXPECT_NE(captions.find(L"Colours"), std::wstring::npos);
+    EXPECT_NE(SHFindMenuBar(window_), nullptr);
+    EXPECT_EQ(timesTold, 0);
+
+    SendMessage(window_, WM_COMMAND, IDOK, 0);
+    EXPECT_FALSE(IsWindow(window_)) << "the first tap saves and quits";
+    EXPECT_FALSE(PumpMessages());
+    EXPECT_EQ(timesTold, 1);
+    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kColourKey, L"GeneralFontColor"), 4660u);
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kColourKey, L"HighlightBgClr"));
 }
 
 TEST_F(MainWindowTest, CancelAsksAndSavesNothing) {

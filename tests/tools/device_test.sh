@@ -175,7 +175,7 @@ check "all filters" is 32 filter_titles
 check "imaging service registered" is 'C:\Program Files\Teskel\Orvane\imaging.dll' eval \
     "on plain reg query 'HKCR\\CLSID\\{327ABDA8-072B-11D3-9D7B-0000F81EF32E}\\InprocServer32' /ve |
         sed -n 's/.*REG_SZ    //p'"
-check "plug-ins on a used device" is $'Battery Lantern\nHarbour Tides\nOrvane' plugins fine
+check "plug-ins on a used device" is $'Battery Lantern\nHarbour Tides\nOrvane\nParcel Post' plugins fine
 on plain reg delete 'HKCU\Software\Teskel' /f >/dev/null
 "$tool" create "$work/empty" --empty
 check "an empty device has no settings" refused on empty reg query 'HKCU\Software\Teskel'

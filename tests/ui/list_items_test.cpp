@@ -6,6 +6,7 @@
 #include <string>
 
 #include "shell/services/application.h"
+#include "shell/services/scaling.h"
 #include "tests/support/window_support.h"
 
 namespace {
@@ -15,11 +16,12 @@ class ListItems : public testing::Test {
   protected:
     void SetUp() override {
         application.instance = GetModuleHandle(nullptr);
+        SetVgaMode(false); // As at start, by the screen's density.
         parent_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 120, 120, nullptr,
                                  nullptr, application.instance, nullptr);
         list_ = CreateList(parent_, kList, nullptr, 20);
-        MoveWindow(list_, 0, 0, 120, 62, FALSE);
-        SendMessage(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+        MoveWindow(list_, 0, 0, Scale(120), ScaleY(62), FALSE);
+        AddTickBoxes(list_);
     }
     void TearDown() override { DestroyWindow(parent_); }
 
@@ -32,12 +34,6 @@ class ListItems : public testing::Test {
             list_, LVM_GETITEMTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item))));
         return text;
     }
-    UINT TickOfRow(int row) const {
-        return static_cast<UINT>(SendMessage(list_, LVM_GETITEMSTATE, static_cast<WPARAM>(row),
-                                             LVIS_STATEIMAGEMASK)) >>
-               12;
-    }
-
     HWND parent_ = nullptr;
     HWND list_ = nullptr;
 };
@@ -46,10 +42,7 @@ TEST_F(ListItems, MovesTheSelectedRowWithAllItHas) {
     AddRow(list_, L"first", 7);
     AddRow(list_, std::wstring(1023, L'x').c_str(), 8);
     AddRow(list_, L"last", 0xFFFFFFFF);
-    LVITEM ticked{};
-    ticked.state = INDEXTOSTATEIMAGEMASK(2);
-    ticked.stateMask = LVIS_STATEIMAGEMASK;
-    SendMessage(list_, LVM_SETITEMSTATE, 1, reinterpret_cast<LPARAM>(&ticked));
+    TickRow(list_, 1, true);
     SelectRow(list_, 1);
 
     MoveSelectedRow(parent_, list_, false);
@@ -57,10 +50,10 @@ TEST_F(ListItems, MovesTheSelectedRowWithAllItHas) {
     EXPECT_EQ(FocusedRow(list_), 2);
     EXPECT_EQ(TextOfRow(2), std::wstring(1023, L'x'));
     EXPECT_EQ(RowData(list_, 2), 8u);
-    EXPECT_EQ(TickOfRow(2), 2u);
+    EXPECT_TRUE(IsRowTicked(list_, 2));
     EXPECT_EQ(TextOfRow(1), L"last");
     EXPECT_EQ(RowData(list_, 1), 0xFFFFFFFFu);
-    EXPECT_EQ(TickOfRow(1), 1u);
+    EXPECT_FALSE(IsRowTicked(list_, 1));
 
     MoveSelectedRow(parent_, list_, false);
     EXPECT_EQ(RowData(list_, 2), 8u) << "stays at the edge";

@@ -1,0 +1,134 @@
+// Opening each page, from its creation to its first paint, against a bare window that makes the
+// same controls; and drawing the samples of the Calendar and Tasks pages.
+
+#include <windows.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bench/timing.h"
+#include "preview/item_sample.h"
+#include "settings/settings_store.h"
+#include "shell/main_window.h"
+#include "shell/page_factory.h"
+#include "shell/services/application.h"
+#include "shell/services/handles.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+
+namespace {
+
+constexpr int kRounds = 31;
+constexpr wchar_t kBareClass[] = L"PageBench";
+
+struct Control {
+    std::wstring className;
+    std::wstring text;
+    DWORD style;
+    DWORD extendedStyle;
+    RECT place; // On the page.
+};
+
+void AddControl(HWND window, std::vector<Control>& controls) {
+    wchar_t className[64] = L"";
+    wchar_t text[256] = L"";
+    GetClassName(window, className, 64);
+    GetWindowText(window, text, 256);
+    RECT place{};
+    GetWindowRect(window, &place);
+    HWND page = GetParent(window);
+    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&place), 2);
+    controls.push_back({className, text, static_cast<DWORD>(GetWindowLong(window, GWL_STYLE)),
+                        static_cast<DWORD>(GetWindowLong(window, GWL_EXSTYLE)), place});
+}
+
+void PumpMessages() {
+    MSG message;
+    while (PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessage(&message);
+}
+
+// The controls of a page, not the children that combo boxes and lists make for themselves.
+std::vector<Control> ControlsOf(HWND page) {
+    std::vector<Control> controls;
+    for (HWND child = GetWindow(page, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        AddControl(child, controls);
+    return controls;
+}
+
+void OpenBare(HWND main, const std::vector<Control>& controls) {
+    RECT place{};
+    GetWindowRect(main, &place);
+    HWND window = CreateWindowEx(0, kBareClass, L"", WS_POPUP | WS_VISIBLE, place.left, place.top,
+                                 place.right - place.left, place.bottom - place.top, main, nullptr,
+                                 application.instance, nullptr);
+    for (const Control& control : controls) {
+        const RECT& at = control.place;
+        HWND child =
+            CreateWindowEx(control.extendedStyle, control.className.c_str(), control.text.c_str(),
+                           control.style, at.left, at.top, at.right - at.left, at.bottom - at.top,
+                           window, nullptr, application.instance, nullptr);
+        SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(application.normalFont), 0);
+    }
+    UpdateWindow(window);
+    PumpMessages();
+    DestroyWindow(window);
+}
+
+void OpenPage(HWND main, int row) {
+    const std::unique_ptr<SettingsPage> page(CreatePage(main, row));
+    UpdateWindow(page->hwnd);
+    PumpMessages();
+    ClosePage(*page);
+}
+
+void ComparePages(HWND main) {
+    for (int row = 0; row < kPageCount; ++row) {
+        const std::unique_ptr<SettingsPage> page(CreatePage(main, row));
+        const std::vector<Control> controls = ControlsOf(page->hwnd);
+        ClosePage(*page);
+        char name[64];
+        std::snprintf(name, sizeof name, "page %d, %zu controls", row, controls.size());
+        PrintRow(name,
+                 Compare(
+                     kRounds, [&] { OpenBare(main, controls); }, [&] { OpenPage(main, row); }),
+                 1.3);
+    }
+}
+
+void MeasureSamples(HWND main) {
+    HDC dc = GetDC(main);
+    ItemSample sample(settingsStore);
+    const WideString subject(L"Meeting with the whole team");
+    const WideString location(L"Room 12");
+    std::vector<double> times;
+    for (int round = 0; round < 301; ++round) {
+        times.push_back(Milliseconds([&] {
+            sample.PaintAppointment(dc, 0, Scale(240), subject, location);
+            sample.PaintTask(dc, 0, Scale(240), subject);
+        }));
+    }
+    ReleaseDC(main, dc);
+    std::printf("%-44s %21.3f\n", "both samples drawn, ms", Median(times));
+}
+
+} // namespace
+
+int main() {
+    application.instance = GetModuleHandle(nullptr);
+    WNDCLASS bare{};
+    bare.lpfnWndProc = DefWindowProc;
+    bare.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    bare.lpszClassName = kBareClass;
+    RegisterClass(&bare);
+    HWND main = CreateMainWindow(application.instance);
+    MakeRoomForMenuBar(main);
+    PumpMessages();
+    PrintHeading();
+    ComparePages(main);
+    MeasureSamples(main);
+    DestroyWindow(main);
+    return 0;
+}

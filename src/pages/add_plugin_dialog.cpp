@@ -1,0 +1,152 @@
+#include "pages/add_plugin_dialog.h"
+
+#include <aygshell.h>
+
+#include <vector>
+
+#include "resource_ids.h"
+#include "settings/today_items.h"
+#include "shell/services/application.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "shell/services/today_screen.h"
+#include "ui/controls.h"
+#include "ui/messages.h"
+#include "ui/modal_loop.h"
+
+namespace {
+constexpr int kMargin = 10;
+constexpr int kHelpTop = 8;
+constexpr int kHelpHeight = 56;
+constexpr int kLabelTop = 68;
+constexpr int kListTop = 84;
+constexpr int kRowHeight = 20;
+constexpr int kDropHeight = 100;
+constexpr int kButtonWidth = 108;
+constexpr int kButtonGap = 6; // Below the button.
+
+// Fixed texts, not the language library's.
+constexpr wchar_t kNothingSelected[] = L"No Today screen plugin is selecetd. Please select a Today "
+                                       L"screen plugin from the selection combo-box.";
+constexpr wchar_t kNothingSelectedCaption[] = L"Selection Missing";
+
+class AddPluginDialog final : private ModalLoop {
+  public:
+    // IDOK when a plug-in was chosen.
+    int Run(HWND owner);
+    [[nodiscard]] const WideString& Chosen() const { return chosen_; }
+
+  private:
+    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
+    void OnInit(HWND dialog);
+    void OnCommand(HWND dialog, UINT id);
+    void OnOk(HWND dialog);
+
+    std::vector<WideString> plugins_; // In the order of the list's entries.
+    WideString chosen_;
+};
+
+void LayOut(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    const int left = Scale(kMargin);
+    const int width = client.right - 2 * left;
+    const int button = Scale(kButtonWidth);
+    const int row = ScaleY(kRowHeight);
+    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_HELP),
+                 {left, ScaleY(kHelpTop), width, ScaleY(kHelpHeight)});
+    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_LABEL), {left, ScaleY(kLabelTop), width, row});
+    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_LIST),
+                 {left, ScaleY(kListTop), width, ScaleY(kDropHeight)});
+    PlaceControl(
+        GetDlgItem(window, IDCANCEL),
+        {client.right - left - button, client.bottom - ScaleY(kButtonGap) - row, button, row});
+}
+
+int AddPluginDialog::Run(HWND owner) {
+    return RunDialog(owner, IDD_ADD_PLUGIN, DialogProc, reinterpret_cast<LPARAM>(this));
+}
+
+void AddPluginDialog::OnInit(HWND dialog) {
+    FillScreen(dialog, LanguageText(IDS_TABS_ADD_TITLE).CStr());
+    SHMENUBARINFO bar{};
+    bar.cbSize = sizeof(bar);
+    bar.hwndParent = dialog;
+    bar.dwFlags = SHCMBF_EMPTYBAR;
+    bar.hInstRes = application.instance;
+    SHCreateMenuBar(&bar); // Belongs to the dialog and goes with it.
+    SetDlgItemText(dialog, IDC_ADD_PLUGIN_LABEL, LanguageText(IDS_TABS_PLUGIN).CStr());
+    SetDlgItemText(dialog, IDC_ADD_PLUGIN_HELP, LanguageText(IDS_TABS_PLUGIN_HELP).CStr());
+    SetDlgItemText(dialog, IDCANCEL, LanguageText(IDS_CANCEL).CStr());
+    plugins_ = TodayPlugins();
+    HWND list = GetDlgItem(dialog, IDC_ADD_PLUGIN_LIST);
+    for (const WideString& plugin : plugins_)
+        AddEntry(list, plugin.CStr());
+    SelectIndex(list, 0);
+    LayOut(dialog);
+}
+
+void AddPluginDialog::OnCommand(HWND dialog, UINT id) {
+    if (id == IDOK) OnOk(dialog);
+    if (id == IDCANCEL) Finish(IDCANCEL);
+}
+
+void AddPluginDialog::OnOk(HWND dialog) {
+    const int entry = SelectedIndex(dialog, IDC_ADD_PLUGIN_LIST);
+    if (entry < 0) {
+        MessageBox(dialog, kNothingSelected, kNothingSelectedCaption, MB_OK);
+        return;
+    }
+    const WideString& plugin = plugins_[static_cast<size_t>(entry)];
+    if (IsTodayItemEnabled(plugin.CStr())) {
+        if (!AskYesNo(dialog, IDS_TABS_DISABLE_QUESTION, IDS_TABS_DISABLE_CAPTION)) {
+            Finish(IDCANCEL);
+            return;
+        }
+        DisableTodayItem(plugin.CStr());
+        // The Today screen may take its time; nothing of the question is to stay meanwhile.
+        InvalidateRect(dialog, nullptr, TRUE);
+        UpdateWindow(dialog);
+        RefreshTodayScreen();
+    }
+    chosen_ = plugin;
+    Finish(IDOK);
+}
+
+INT_PTR AddPluginDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        OnInit(dialog);
+        return FALSE; // The loop gives the focus.
+    case WM_SIZE:
+        LayOut(dialog);
+        return TRUE;
+    case WM_COMMAND:
+        OnCommand(dialog, LOWORD(wParam));
+        return TRUE;
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
+    case WM_DESTROY:
+        OnDestroyed();
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+INT_PTR CALLBACK AddPluginDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
+                                             LPARAM lParam) {
+    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
+    auto* self = reinterpret_cast<AddPluginDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
+    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
+}
+} // namespace
+
+bool ChoosePluginToAdd(HWND owner, WideString& name) {
+    AddPluginDialog dialog;
+    if (dialog.Run(owner) != IDOK) return false;
+    name = dialog.Chosen();
+    return true;
+}

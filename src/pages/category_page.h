@@ -1,0 +1,35 @@
+#pragma once
+
+#include "files/category_store.h"
+#include "pages/form_page.h"
+
+// The Category page: colours and icons of the categories, which category belongs to which filter,
+// and the folder of additional icons. All but the folder is changed in the category store itself;
+// an icon is changed at once, as it is a file.
+class CategoryPage final : public FormPage {
+  public:
+    CategoryPage();
+
+    void CreateControls(HWND window) override;
+    void SaveValues(HWND window, WPARAM wParam) override;
+    LRESULT OnDrawItem(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT OnMeasureItem(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT Layout(HWND window) override;
+    LRESULT OnNotify(HWND window, UINT message, WPARAM wParam, NMHDR* header) override;
+
+  protected:
+    bool BrowsePath(HWND window, const FormRow& row, WideString& path) override;
+
+  private:
+    void FillLists(HWND window);
+    void DrawCategory(const DRAWITEMSTRUCT& row, const CategoryEntry& category) const;
+    void OnButton(HWND window, UINT id);
+    void OnPathChanged(HWND window) const;
+
+    void ChangeFilter(HWND window);
+    void ShowFilter(HWND window, int position);
+    void RenameFilter(HWND window) const;
+
+    int shownFilter_ = 0; // The position of the filter that the controls show.
+};

@@ -1,0 +1,233 @@
+#include "pages/font_style_dialog.h"
+
+#include <aygshell.h>
+#include <commctrl.h>
+
+#include "pages/font_size_list.h"
+#include "resource_ids.h"
+#include "shell/services/application.h"
+#include "shell/services/handles.h"
+#include "shell/services/image_strip.h"
+#include "shell/services/resource_strings.h"
+#include "shell/services/scaling.h"
+#include "ui/colour_box.h"
+#include "ui/colour_picker.h"
+#include "ui/controls.h"
+#include "ui/modal_loop.h"
+
+namespace {
+constexpr LONG kBold = 700;
+constexpr LONG kRegular = 100;
+
+constexpr int kBarImageSize = 16;
+constexpr COLORREF kBarImageMask = 0xC6CFDE;
+
+// Measures in units: rows from the top, and what stands in them from an edge of the dialog.
+constexpr int kTop = 8;
+constexpr int kRowPitch = 24;
+constexpr int kRowHeight = 20;
+constexpr int kLabelDrop = 3; // A label stands this much lower than what it names.
+constexpr int kColourRow = 5;
+constexpr int kMargin = 10;
+constexpr int kSwatchFromRight = 100;
+constexpr int kSwatchWidth = 40;
+
+struct TextOfControl {
+    UINT control;
+    UINT text;
+};
+constexpr TextOfControl kTexts[] = {
+    {IDC_FONT_COLOUR_LABEL, IDS_FONT_STYLE_COLOUR},
+    {IDC_FONT_ITALIC, IDS_FONT_STYLE_ITALIC},
+    {IDC_FONT_BOLD, IDS_FONT_STYLE_BOLD},
+    {IDC_FONT_UNDERLINE, IDS_FONT_STYLE_UNDERLINE},
+    {IDC_FONT_STRIKE_OUT, IDS_FONT_STYLE_STRIKE_OUT},
+    {IDC_FONT_SIZE_LABEL, IDS_FONT_STYLE_SIZE},
+    {IDC_FONT_SET_COLOUR, IDS_FONT_STYLE_SET},
+};
+
+class FontStyleDialog final : private ModalLoop {
+  public:
+    FontStyleDialog(LOGFONT& font, COLORREF& colour) : font_(font), colour_(colour) {}
+    void Run(HWND owner);
+
+  private:
+    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
+    void OnInit(HWND dialog);
+    void CreateBar(HWND dialog);
+    void LoadValues(HWND dialog) const;
+    void OnCommand(HWND dialog, UINT id);
+    void OnPaint(HWND dialog) const;
+    void TakeStyle(HWND dialog) const;
+    void SetColour(HWND dialog);
+
+    LOGFONT& font_;
+    COLORREF& colour_;
+    HWND bar_ = nullptr;
+    UniqueImageList barImages_;
+};
+
+// A row's upper edge in pixels.
+int RowTop(int row) {
+    return ScaleY(kTop + row * kRowPitch);
+}
+
+int ClientWidth(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return client.right;
+}
+
+RECT SwatchPlace(HWND dialog) {
+    const int left = ClientWidth(dialog) - Scale(kSwatchFromRight);
+    const int top = RowTop(kColourRow);
+    return {left, top, left + Scale(kSwatchWidth), top + ScaleY(kRowHeight)};
+}
+
+void LayOut(HWND dialog) {
+    constexpr int kListFromRight = 135;
+    constexpr int kListWidth = 125;
+    constexpr int kListDropHeight = 100;
+    constexpr int kSizeLabelEnd = 140;
+    constexpr int kColourLabelEnd = 110;
+    constexpr int kSetFromRight = 50;
+    constexpr int kSetWidth = 40;
+    const int width = ClientWidth(dialog);
+    const int height = ScaleY(kRowHeight);
+    const auto place = [&](UINT id, int left, int top, int itemWidth, int itemHeight) {
+        MoveWindow(GetDlgItem(dialog, static_cast<int>(id)), left, top, itemWidth, itemHeight,
+                   TRUE);
+    };
+    int row = 0;
+    place(IDC_FONT_SIZE_LABEL, 0, RowTop(row) + ScaleY(kLabelDrop), width - Scale(kSizeLabelEnd),
+          height);
+    place(IDC_FONT_SIZE, width - Scale(kListFromRight), RowTop(row), Scale(kListWidth),
+          ScaleY(kListDropHeight));
+    for (const UINT box : {IDC_FONT_BOLD, IDC_FONT_ITALIC, IDC_FONT_UNDERLINE, IDC_FONT_STRIKE_OUT})
+        place(box, Scale(kMargin), RowTop(++row), width - Scale(2 * kMargin), height);
+    place(IDC_FONT_COLOUR_LABEL, 0, RowTop(kColourRow) + ScaleY(kLabelDrop),
+          width - Scale(kColourLabelEnd), height);
+    place(IDC_FONT_SET_COLOUR, width - Scale(kSetFromRight), RowTop(kColourRow), Scale(kSetWidth),
+          height);
+    InvalidateRect(dialog, nullptr, TRUE);
+}
+
+void FontStyleDialog::Run(HWND owner) {
+    RunDialog(owner, IDD_FONT_STYLE, DialogProc, reinterpret_cast<LPARAM>(this));
+}
+
+void FontStyleDialog::OnInit(HWND dialog) {
+    FillScreen(dialog, LanguageText(IDS_FONT_STYLE_TITLE).CStr());
+    CreateBar(dialog);
+    for (const TextOfControl& entry : kTexts)
+        SetDlgItemText(dialog, static_cast<int>(entry.control), LanguageText(entry.text).CStr());
+    LayOut(dialog);
+    LoadValues(dialog);
+}
+
+void FontStyleDialog::CreateBar(HWND dialog) {
+    SHMENUBARINFO info{};
+    info.cbSize = sizeof(info);
+    info.hwndParent = dialog;
+    info.nToolBarId = IDR_FONT_STYLE_BAR;
+    info.hInstRes = application.instance;
+    if (!SHCreateMenuBar(&info)) return;
+    bar_ = info.hwndMB;
+    barImages_ = LoadImageStrip(IDB_MENU_BAR, Scale(kBarImageSize), kBarImageMask);
+    SendMessage(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(barImages_.Get()));
+}
+
+void FontStyleDialog::LoadValues(HWND dialog) const {
+    FillFontSizes(GetDlgItem(dialog, IDC_FONT_SIZE), static_cast<uint32_t>(font_.lfHeight));
+    const auto check = [dialog](int id, bool isChecked) {
+        SendDlgItemMessage(dialog, id, BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED, 0);
+    };
+    check(IDC_FONT_BOLD, font_.lfWeight == kBold);
+    check(IDC_FONT_ITALIC, font_.lfItalic != 0);
+    check(IDC_FONT_UNDERLINE, font_.lfUnderline != 0);
+    check(IDC_FONT_STRIKE_OUT, font_.lfStrikeOut != 0);
+}
+
+void FontStyleDialog::TakeStyle(HWND dialog) const {
+    font_.lfItalic = IsBoxChecked(dialog, IDC_FONT_ITALIC) ? 1 : 0;
+    font_.lfUnderline = IsBoxChecked(dialog, IDC_FONT_UNDERLINE) ? 1 : 0;
+    font_.lfWeight = IsBoxChecked(dialog, IDC_FONT_BOLD) ? kBold : kRegular;
+    font_.lfStrikeOut = IsBoxChecked(dialog, IDC_FONT_STRIKE_OUT) ? 1 : 0;
+    font_.lfHeight = static_cast<LONG>(ChosenFontSize(GetDlgItem(dialog, IDC_FONT_SIZE)));
+}
+
+void FontStyleDialog::SetColour(HWND dialog) {
+    const COLORREF chosen = PickColour(dialog, colour_);
+    if (chosen == kPickCancelled) return;
+    colour_ = chosen;
+    const RECT swatch = SwatchPlace(dialog);
+    InvalidateRect(dialog, &swatch, FALSE);
+    UpdateWindow(dialog);
+}
+
+void FontStyleDialog::OnCommand(HWND dialog, UINT id) {
+    switch (id) {
+    case IDC_FONT_SET_COLOUR:
+        SetColour(dialog);
+        break;
+    case IDOK:
+        TakeStyle(dialog);
+        Finish(IDOK);
+        break;
+    case IDCANCEL:
+        Finish(IDCANCEL);
+        break;
+    default:
+        break;
+    }
+}
+
+void FontStyleDialog::OnPaint(HWND dialog) const {
+    PAINTSTRUCT paint;
+    HDC dc = BeginPaint(dialog, &paint);
+    FillRect(dc, &paint.rcPaint, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    DrawColourBox(dc, SwatchPlace(dialog), colour_, application.normalFont);
+    EndPaint(dialog, &paint);
+}
+
+INT_PTR FontStyleDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        OnInit(dialog);
+        return FALSE; // The loop gives the focus.
+    case WM_SIZE:
+        LayOut(dialog);
+        return TRUE;
+    case WM_COMMAND:
+        OnCommand(dialog, LOWORD(wParam));
+        return TRUE;
+    case WM_PAINT:
+        OnPaint(dialog);
+        return TRUE;
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
+    case WM_DESTROY:
+        if (bar_) DestroyWindow(bar_);
+        bar_ = nullptr;
+        barImages_.Reset();
+        OnDestroyed();
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+INT_PTR CALLBACK FontStyleDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
+                                             LPARAM lParam) {
+    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
+    auto* self = reinterpret_cast<FontStyleDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
+    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
+}
+} // namespace
+
+void EditFontStyle(HWND owner, LOGFONT& font, COLORREF& colour) {
+    FontStyleDialog(font, colour).Run(owner);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <windows.h>
+
+// Gives one window the user's attention until it is done.
+class ModalLoop {
+  public:
+    ModalLoop(const ModalLoop&) = delete;
+    ModalLoop& operator=(const ModalLoop&) = delete;
+
+  protected:
+    ModalLoop() = default;
+    ~ModalLoop() = default;
+
+    // Handles messages until Finish, with `owner` disabled, and destroys the window. Gives what
+    // Finish was given; IDCANCEL for a null window and for one that goes another way.
+    int RunOver(HWND owner, HWND window);
+
+    // The same with a dialog of the program's own resources. Its WM_INITDIALOG has the parameter.
+    int RunDialog(HWND owner, UINT dialogTemplate, DLGPROC procedure, LPARAM parameter);
+    // For WM_INITDIALOG: spreads a dialog over the screen, with the navigation bar's ok button and
+    // without the input panel, its controls in the program's font.
+    static void FillScreen(HWND dialog, const wchar_t* title);
+
+    // Ends RunOver with the given answer as soon as the current message is done.
+    void Finish(int answer);
+
+    // To be called when the window is destroyed, by whomever.
+    void OnDestroyed();
+
+    // A key pressed in one of the window's controls, before the navigation keys see it; false to
+    // let it go on.
+    virtual bool OnKey(HWND window, const MSG& message);
+
+  private:
+    void HandleMessages();
+    [[nodiscard]] bool TranslateKey(const MSG& message);
+
+    HWND window_ = nullptr;
+    int answer_ = 0; // 0 while the window runs.
+};

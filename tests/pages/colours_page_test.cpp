@@ -1,0 +1,88 @@
+#include "pages/colours_page.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/support/dialog_steps.h"
+#include "tests/support/page_fixture.h"
+#include "ui/list_items.h"
+
+namespace {
+constexpr int kEdit = 1200;
+constexpr int kColours = 1201;
+constexpr int kHtml = 130; // Of the picker.
+constexpr wchar_t kPicker[] = L"ColourPickerWin";
+
+class ColoursPageTest : public PageFixture {
+  protected:
+    ColoursPageTest() : PageFixture(8) {}
+};
+
+TEST_F(ColoursPageTest, EachRowEditsItsOwnColour) {
+    constexpr DwordSetting SettingsStore::*kSettings[] = {
+        &SettingsStore::SeperatorLineClr,   &SettingsStore::ShadowFontColor,
+        &SettingsStore::GeneralFontColor,   &SettingsStore::HighlightBgClr,
+        &SettingsStore::HighlightTextClr,   &SettingsStore::TimeLinesBgClr,
+        &SettingsStore::TimeLinesDfltClr,   &SettingsStore::ClrBreakingLineClr,
+        &SettingsStore::ClrPopupClrBg,      &SettingsStore::ClrPopupCurr,
+        &SettingsStore::ClrPopupHighlight,  &SettingsStore::TskBreakingLineClr,
+        &SettingsStore::ClrStatusFree,      &SettingsStore::ClrStatusBusy,
+        &SettingsStore::ClrStatusTentative, &SettingsStore::ClrStatusOutofoffice,
+    };
+    HWND window = Open();
+    HWND list = GetDlgItem(window, kColours);
+    ASSERT_EQ(RowCount(list), 16);
+    for (int row = 0; row < 16; ++row) {
+        SelectRow(list, row);
+        WideString html;
+        html.Format(L"%02X0000", row + 1);
+        const DialogSteps steps(kPicker, {[&](HWND picker) {
+                                    SetDlgItemText(picker, kHtml, html.CStr());
+                                    PostMessage(picker, WM_COMMAND, IDOK, 0);
+                                }});
+        Tap(window, kEdit);
+    }
+    for (int row = 0; row < 16; ++row) {
+        const DwordSetting& setting = settingsStore.*kSettings[row];
+        EXPECT_EQ(setting.value, static_cast<uint32_t>(row + 1)) << row;
+        EXPECT_TRUE(setting.changed) << row;
+    }
+    Close();
+}
+
+TEST_F(ColoursPageTest, LeavesTheColourWhereNothingIsChosen) {
+    HWND window = Open();
+    Tap(window, kEdit); // Nothing is selected; a picker would hang the test.
+    SelectRow(GetDlgItem(window, kColours), 2);
+    {
+        const DialogSteps steps(kPicker, {}); // Cancels.
+        Tap(window, kEdit);
+    }
+    EXPECT_FALSE(settingsStore.GeneralFontColor.changed);
+    Close();
+}
+
+// Another program may close the page while the picker is open.
+TEST_F(ColoursPageTest, SurvivesBeingClosedBehindThePicker) {
+    HWND window = Open();
+    SelectRow(GetDlgItem(window, kColours), 2);
+    const DialogSteps steps(kPicker, {[this](HWND) { Close(); }});
+    Tap(window, kEdit);
+    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(settingsStore.GeneralFontColor.changed);
+}
+
+TEST_F(ColoursPageTest, ListsNoHigherThanTheirRoom) {
+    MoveWindow(owner_, 0, Scale(26), Scale(320), Scale(108), FALSE); // Turned, above the panel.
+    HWND window = Open();
+    for (const int id : {kColours, 1204}) {
+        RECT place{};
+        GetWindowRect(GetDlgItem(window, id), &place);
+        EXPECT_GE(place.bottom, place.top) << id;
+        EXPECT_LE(place.bottom - place.top, Scale(8)) << id;
+    }
+    Close();
+}
+} // namespace

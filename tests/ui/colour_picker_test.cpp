@@ -1,0 +1,234 @@
+#include "ui/colour_picker.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "settings/setting.h"
+#include "shell/services/application.h"
+#include "shell/services/scaling.h"
+#include "tests/support/dialog_steps.h"
+#include "tests/support/window_support.h"
+#include "ui/colour_model.h"
+#include "ui/key_navigation.h"
+
+namespace {
+constexpr wchar_t kClass[] = L"ColourPickerWin";
+constexpr int kDefault = 101;
+constexpr int kPalette = 110;
+constexpr int kField = 111;
+constexpr int kLightness = 112;
+constexpr int kBars = 123; // Red, green, blue; so are the edit fields.
+constexpr int kEdits = 126;
+constexpr int kHtml = 130;
+constexpr COLORREF kStart = RGB(16, 32, 48);
+
+class ColourPickerTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        application.instance = GetModuleHandle(nullptr);
+        SetVgaMode(false);
+        owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
+                                Scale(268), nullptr, nullptr, application.instance, nullptr);
+    }
+    void TearDown() override { DestroyWindow(owner_); }
+
+    // Works the picker, the last step answering it, and gives what it gives.
+    COLORREF Pick(COLORREF start, std::vector<DialogSteps::Step> steps) const {
+        const DialogSteps worked(kClass, std::move(steps));
+        return PickColour(owner_, start);
+    }
+    COLORREF PickAfter(COLORREF start, const DialogSteps::Step& step) const {
+        return Pick(start, {[&](HWND picker) {
+                        step(picker);
+                        PostMessage(picker, WM_COMMAND, IDOK, 0);
+                    }});
+    }
+
+    HWND owner_ = nullptr;
+};
+
+void Type(HWND picker, int id, const wchar_t* text) {
+    SetDlgItemText(picker, id, text);
+}
+
+// As the loop of the picker handles it.
+void Press(HWND picker, WPARAM key) {
+    const MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
+    if (!TranslateNavigationKey(picker, message)) DispatchMessage(&message);
+}
+
+std::wstring Values(HWND picker) {
+    std::wstring values;
+    for (int i = 0; i < 3; ++i) {
+        values += TextOf(GetDlgItem(picker, kEdits + i)) + L",";
+        values += std::to_wstring(SendDlgItemMessage(picker, kBars + i, TBM_GETPOS, 0, 0)) + L" ";
+    }
+    return values + TextOf(GetDlgItem(picker, kHtml));
+}
+
+// What shows of a window's controls, its tab strip among them, lies inside it and apart.
+void ExpectNoOverlap(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&client), 2);
+    std::vector<std::pair<int, RECT>> places;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (!IsWindowVisible(child)) continue;
+        RECT place{};
+        GetWindowRect(child, &place);
+        const int id = GetDlgCtrlID(child);
+        EXPECT_LT(place.top, place.bottom) << id;
+        EXPECT_LT(place.left, place.right) << id;
+        EXPECT_GE(place.top, client.top) << id;
+        EXPECT_LE(place.bottom, client.bottom) << id;
+        for (const auto& [other, otherPlace] : places) {
+            RECT common{};
+            EXPECT_FALSE(IntersectRect(&common, &place, &otherPlace)) << id << " and " << other;
+        }
+        places.emplace_back(id, place);
+    }
+}
+
+TEST_F(ColourPickerTest, GivesTheColourNoneOrCancelled) {
+    const auto nothing = [](HWND) {};
+    const auto tapDefault = [](HWND picker) { Tap(picker, kDefault); };
+    EXPECT_EQ(PickAfter(kStart, nothing), kStart);
+    EXPECT_EQ(PickAfter(kNoColour, nothing), kNoColour);
+    EXPECT_EQ(PickAfter(kStart, tapDefault), kNoColour);
+    EXPECT_EQ(PickAfter(0x12345678, nothing), 0x345678u) << "the high byte is no part of a colour";
+    EXPECT_EQ(PickAfter(kPickCancelled, nothing), 0xFFFFFEu);
+    EXPECT_EQ(Pick(kStart,
+                   {tapDefault, [](HWND picker) { PostMessage(picker, WM_COMMAND, IDCANCEL, 0); }}),
+              kPickCancelled);
+    EXPECT_TRUE(IsWindowEnabled(owner_));
+}
+
+TEST_F(ColourPickerTest, FieldsAndBarsShowAndSetOneColour) {
+    EXPECT_EQ(PickAfter(kStart,
+                        [](HWND picker) {
+                            EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030");
+                            Type(picker, kEdits, L"255");
+                            EXPECT_EQ(Values(picker), L"255,255 32,32 48,48 FF2030");
+                            HWND bar = GetDlgItem(picker, kBars + 1);
+                            SendMessage(bar, TBM_SETPOS, TRUE, 200);
+                            SendMessage(picker, WM_HSCROLL, TB_THUMBTRACK,
+                                        reinterpret_cast<LPARAM>(bar));
+                            EXPECT_EQ(Values(picker), L"255,255 200,200 48,48 FFC830");
+                            Tap(picker, kDefault);
+                            EXPECT_EQ(Values(picker), L",0 ,0 ,0 ");
+                            Type(picker, kEdits + 2, L"7");
+                        }),
+              RGB(0, 0, 7));
+}
+
+TEST_F(ColourPickerTest, RefusesValuesAbove255) {
+    for (const wchar_t* typed : {L"256", L"999", L"-1"}) {
+        const MessageBoxAnswer answer(IDOK);
+        EXPECT_EQ(PickAfter(kStart,
+                            [typed](HWND picker) {
+                                Type(picker, kEdits + 1, typed);
+                                EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030");
+                            }),
+                  kStart);
+        EXPECT_EQ(answer.count, 1) << typed;
+        EXPECT_EQ(answer.text, L"Valid values are between 0-255");
+        EXPECT_EQ(answer.caption, L"Invalid value");
+    }
+}
+
+TEST_F(ColourPickerTest, ReadsAnHtmlColourWhenItIsWhole) {
+    EXPECT_EQ(
+        PickAfter(
+            kStart,
+            [](HWND picker) {
+                for (const wchar_t* unfinished : {L"", L"FF80", L"#FF800", L"FF80001", L"GG0000"}) {
+                    Type(picker, kHtml, unfinished);
+                    EXPECT_EQ(TextOf(GetDlgItem(picker, kEdits)), L"16") << unfinished;
+                }
+                SendMessage(picker, WM_COMMAND, MAKEWPARAM(kHtml, EN_KILLFOCUS), 0);
+                EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"102030");
+                Type(picker, kHtml, L"#fF8001");
+            }),
+        RGB(255, 128, 1));
+}
+
+TEST_F(ColourPickerTest, ColoursCanBeTapped) {
+    const auto tap = [](HWND surface, int right, int down) { // Thousandths of the surface.
+        RECT client{};
+        GetClientRect(surface, &client);
+        const LPARAM at = MAKELPARAM(client.right * right / 1000, client.bottom * down / 1000);
+        SendMessage(surface, WM_LBUTTONDOWN, MK_LBUTTON, at);
+        SendMessage(surface, WM_LBUTTONUP, 0, at);
+    };
+    EXPECT_EQ(PickAfter(kStart, [&](HWND p) { tap(GetDlgItem(p, kPalette), 150, 500); }),
+              RGB(255, 0, 0));
+    const auto tapField = [&](HWND p) {
+        tap(GetDlgItem(p, kField), 999, 0);
+        tap(GetDlgItem(p, kLightness), 500, 500);
+    };
+    const COLORREF vivid = PickAfter(RGB(0, 0, 0), tapField);
+    EXPECT_GE(GetRValue(vivid), 250);
+    EXPECT_LE(GetGValue(vivid), 8);
+    EXPECT_EQ(PickAfter(kStart, [&](HWND p) { tap(GetDlgItem(p, kLightness), 500, 0); }),
+              RGB(255, 255, 255));
+}
+
+TEST_F(ColourPickerTest, KeysMoveTheMarksAndLeaveAtTheEdges) {
+    EXPECT_EQ(PickAfter(kStart,
+                        [](HWND picker) {
+                            HWND palette = GetDlgItem(picker, kPalette);
+                            EXPECT_EQ(GetFocus(), palette);
+                            Press(picker, VK_RIGHT);
+                            Press(picker, VK_DOWN);
+                            EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030") << "only marked";
+                            Press(picker, VK_RETURN);
+                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"FF0000");
+                            Press(picker, VK_DOWN);
+                            Press(picker, VK_DOWN);
+                            EXPECT_EQ(GetFocus(), GetDlgItem(picker, kField));
+                            Press(picker, VK_RIGHT);
+                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"FF2B00") << "10 degrees";
+                            for (int i = 0; i < 20; ++i)
+                                Press(picker, VK_DOWN);
+                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"808080");
+                            Press(picker, VK_DOWN);
+                            EXPECT_EQ(GetFocus(), GetDlgItem(picker, kLightness));
+                            Press(picker, VK_UP);
+                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"8C8C8C");
+                            Press(picker, VK_RIGHT);
+                            EXPECT_EQ(GetFocus(), GetDlgItem(picker, kDefault));
+                        }),
+              RGB(0x8C, 0x8C, 0x8C));
+}
+
+TEST_F(ColourPickerTest, FitsItsScreen) {
+    for (const SIZE size : {SIZE{240, 268}, SIZE{320, 188}, SIZE{320, 108}, SIZE{240, 188}}) {
+        MoveWindow(owner_, 0, Scale(26), Scale(static_cast<int>(size.cx)),
+                   Scale(static_cast<int>(size.cy)), FALSE);
+        PickAfter(kStart, [size](HWND picker) {
+            HWND strip = FindWindowEx(picker, nullptr, WC_TABCONTROL, nullptr);
+            for (int tab = 0; tab < 2; ++tab) {
+                SendMessage(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+                ExpectNoOverlap(picker);
+            }
+        });
+    }
+}
+
+// The shades of a colour give it back, but for rounding.
+TEST(ColourModel, TurnsColoursIntoShadesAndBack) {
+    for (uint32_t colour = 0; colour < 0x1000000; colour += 0x010305) {
+        const HueShade shade = HueShadeOf(colour, {0, 0, 0});
+        const uint32_t back = ColourOf(shade);
+        for (int i = 0; i < 3; ++i) {
+            const int difference =
+                static_cast<int>(Component(back, i)) - static_cast<int>(Component(colour, i));
+            ASSERT_LE(std::abs(difference), 4) << std::hex << colour << " " << back;
+        }
+    }
+    const HueShade blue = HueShadeOf(0xFF0000, {0, 0, 0});
+    EXPECT_EQ(HueShadeOf(0x808080, blue).hue, 240) << "grey has no hue of its own";
+}
+} // namespace
