@@ -10,6 +10,7 @@ add_executable(pure_tests ${pure_tests}
     ${files}/line_grammar.cpp
     ${files}/line_reader.cpp
     ${files}/line_writer.cpp
+    ${files}/tga_image.cpp
     ${files}/utf8.cpp
     ${services}/number_text.cpp
     ${services}/wide_string.cpp

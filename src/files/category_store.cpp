@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "files/categories_database.h"
+#include "files/category_icons.h"
 #include "files/file_stream.h"
 #include "settings/registry_values.h"
 #include "settings/settings_store.h"
@@ -17,14 +18,6 @@ WideString FilterFilePath() {
     WideString path(settingsStore.OVFiltersFileFolder.value);
     path.Append(L"\\OVFilters.txt");
     return path;
-}
-
-UniqueBitmap LoadCategoryIcon(const WideString& name) {
-    WideString path(settingsStore.OVIconsFolder.value);
-    path.Append(L"\\");
-    path.Append(name.CStr());
-    path.Append(L".bmp");
-    return UniqueBitmap(SHLoadDIBitmap(path.CStr()));
 }
 
 std::wstring_view NameOf(const std::unique_ptr<CategoryEntry>& category) {

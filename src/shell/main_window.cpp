@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "files/category_store.h"
+#include "files/icon_set.h"
 #include "resource_ids.h"
 #include "settings/font_catalogue.h"
 #include "settings/settings_store.h"
@@ -34,7 +35,6 @@ struct MainWindow {
     SHACTIVATEINFO activateInfo{};
     MainMenuBar menuBar;
     PageList pageList;
-    IImagingFactory* imagingFactory = nullptr;
 };
 
 MainWindow mainWindow;
@@ -42,12 +42,12 @@ MainWindow mainWindow;
 void CreateImagingFactory() {
     CoInitializeEx(nullptr, 0);
     CoCreateInstance(CLSID_ImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IImagingFactory,
-                     reinterpret_cast<void**>(&mainWindow.imagingFactory));
+                     reinterpret_cast<void**>(&application.imagingFactory));
 }
 
 void ReleaseImagingFactory() {
-    if (mainWindow.imagingFactory) mainWindow.imagingFactory->Release();
-    mainWindow.imagingFactory = nullptr;
+    if (application.imagingFactory) application.imagingFactory->Release();
+    application.imagingFactory = nullptr;
     CoUninitialize();
 }
 
@@ -82,6 +82,7 @@ LRESULT OnCreate(HWND window) {
     SetFontCatalogue(FontCatalogueEntry);
     LoadDisplayLibrary();
     mainWindow.menuBar.Create(window);
+    iconSet.LoadIconSet(WideString());
     application.normalFont = CreateUiFont(FW_DONTCARE);
     application.boldFont = CreateUiFont(FW_BOLD);
     categoryStore.LoadCategoryStore();
@@ -114,6 +115,7 @@ LRESULT OnDestroy(HWND window) {
     DeleteFont(application.normalFont);
     DeleteFont(application.boldFont);
     mainWindow.menuBar.Destroy();
+    iconSet.Release();
     ReleaseModule(application.languageLibrary);
     ReleaseModule(application.displayLibrary);
     ReleaseImagingFactory();

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "files/category_icons.h"
 #include "settings/settings_store.h"
 #include "tests/settings/store_fixture.h"
+#include "tests/support/image_files.h"
 #include "tests/support/install_folder.h"
 
 namespace {
@@ -76,15 +78,43 @@ TEST_F(CategoryStoreTest, KeepsColoursAndFilterBitsInTheRegistry) {
 }
 
 TEST_F(CategoryStoreTest, LoadsIconsOfTheIconsFolder) {
-    constexpr char kBitmap[] = "BM\x3A\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x01\0\0\0\x01\0\0\0\x01\0"
-                               "\x18\0\0\0\0\0\x04\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0";
-    folder_->SetCategories("1\t0\tHome\n2\t0\tWork\n3\t0\ta/b\n");
-    folder_->Write(L"CategoryIcons\\Home.bmp", std::string(kBitmap, sizeof kBitmap - 1));
+    folder_->SetCategories("1\t0\tHome\n2\t0\tWork\n3\t0\ta/b\n4\t0\t..\\Icons\\star\n");
+    folder_->Write(L"CategoryIcons\\Home.bmp", BmpFile(1, 1, 0));
+    folder_->Write(L"Icons\\star.bmp", BmpFile(1, 1, 0));
     Load();
     EXPECT_EQ(settingsStore.OVIconsFolder.value, folder_->PathOf(L"CategoryIcons").c_str());
     EXPECT_TRUE(store_.FindCategory(L"Home")->icon);
     EXPECT_FALSE(store_.FindCategory(L"Work")->icon);
     EXPECT_FALSE(store_.FindCategory(L"a/b")->icon);
+    EXPECT_FALSE(store_.FindCategory(L"..\\Icons\\star")->icon) << "of another folder";
+}
+
+TEST_F(CategoryStoreTest, ReplacesIcons) {
+    const std::string old = BmpFile(1, 1, 1);
+    const std::string fresh = BmpFile(2, 2, 2);
+    const std::wstring home = L"CategoryIcons\\Home.bmp";
+    const std::wstring star = folder_->PathOf(L"Icons\\star.bmp");
+    folder_->Write(home, old);
+    folder_->Write(L"Icons\\star.bmp", fresh);
+    Load();
+    EXPECT_TRUE(ReplaceCategoryIcon(L"Home", folder_->PathOf(L"categoryicons\\HOME.BMP").c_str()));
+    EXPECT_EQ(folder_->Read(home), old) << "its own file";
+    SetFileAttributes(folder_->PathOf(home).c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_TRUE(ReplaceCategoryIcon(L"Home", star.c_str()));
+    EXPECT_EQ(folder_->Read(home), fresh);
+    EXPECT_EQ(folder_->Read(L"Icons\\star.bmp"), fresh);
+    EXPECT_FALSE(ReplaceCategoryIcon(L"Home", L"\\No such file.bmp"));
+    EXPECT_FALSE(folder_->Has(home));
+    folder_->Write(home, old);
+    EXPECT_FALSE(ReplaceCategoryIcon(L"Home", L""));
+    EXPECT_FALSE(folder_->Has(home));
+
+    for (const wchar_t* name : {L"..\\Icons\\star", L"a/b", L"a:b", L"a*", L"a?", L"a\nb", L""}) {
+        EXPECT_STREQ(CategoryIconPath(name).CStr(), L"") << name;
+        EXPECT_FALSE(ReplaceCategoryIcon(name, L""));
+        EXPECT_FALSE(ReplaceCategoryIcon(name, star.c_str()));
+    }
+    EXPECT_EQ(folder_->Read(L"Icons\\star.bmp"), fresh);
 }
 
 TEST_F(CategoryStoreTest, FindsSelections) {

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "files/icon_set.h"
 #include "resource_ids.h"
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
@@ -115,6 +116,15 @@ TEST_F(MainWindowTest, ListsTheTwelvePagesAndOpensEach) {
         EXPECT_EQ(TextOf(window_), L"OV Options");
     }
     EXPECT_EQ(CreatePage(window_, kPageCount), nullptr);
+}
+
+TEST_F(MainWindowTest, HoldsTheBuiltInIconSetWhileItLives) {
+    Start();
+    EXPECT_TRUE(iconSet[IconSymbol::Note].bitmap && iconSet[IconSymbol::AttachedIcon].bitmap);
+    EXPECT_TRUE(application.imagingFactory);
+    DestroyWindow(window_);
+    EXPECT_FALSE(iconSet[IconSymbol::Note].bitmap || iconSet[IconSymbol::AttachedIcon].bitmap);
+    EXPECT_FALSE(application.imagingFactory);
 }
 
 TEST_F(MainWindowTest, LeavesRoomForItsMenuBar) {

@@ -99,18 +99,46 @@ write_screen_registry() {
 END
 }
 
-# The sample category icons as bitmaps, made when their drawings are newer; prints their folder.
-make_sample_icons() {
-    local icons="$root/build/sample-icons" drawing bitmap
-    mkdir -p "$icons"
-    for drawing in "$root"/device/category-icons/*.svg; do
-        bitmap="$icons/$(basename "$drawing" .svg).bmp"
-        [ ! "$bitmap" -nt "$drawing" ] || continue
-        # By way of a name of its own, so that two runs at once do not meet.
-        rsvg-convert -w 16 -h 16 -b white "$drawing" |
-            convert png:- -type TrueColor "bmp3:$bitmap.$$"
-        mv "$bitmap.$$" "$bitmap"
+# render DRAWING SIZE FILE [OPTION...]: makes a picture file when its drawing is newer; the file's
+# ending says its format, the options are the converter's.
+render() {
+    local drawing=$1 size=$2 picture=$3 format=${3##*.}
+    [ ! "$picture" -nt "$drawing" ] || return 0
+    mkdir -p "${picture%/*}"
+    # By way of a name of its own, so that two runs at once do not meet.
+    rsvg-convert -w "$size" -h "$size" "$drawing" |
+        convert png:- "${@:4}" -strip "${format/bmp/bmp3}:$picture.$$"
+    mv "$picture.$$" "$picture"
+}
+
+# make_icon_set NAME FOLDER SIZE FILES: an icon set of the drawings in a folder, in files of a format.
+# The check boxes and the arrows of bitmap files are on the colours that stand for clear.
+make_icon_set() {
+    local drawing stem to="$root/build/sample-icons/$3/sets/$1"
+    for drawing in "$2"/*.svg; do
+        stem=$(basename "$drawing" .svg)
+        case $4/$stem in
+        bmp/task_*checked) render "$drawing" "$3" "$to/$stem.bmp" -background red -flatten \
+            -type TrueColor ;;
+        bmp/tabs_*) render "$drawing" "$3" "$to/$stem.bmp" -background lime -flatten \
+            -type TrueColor ;;
+        tga/*) render "$drawing" "$3" "$to/$stem.tga" -type TrueColorAlpha -compress RLE ;;
+        *) render "$drawing" "$3" "$to/$stem.png" ;;
+        esac
     done
+}
+
+# make_sample_icons SCALE: the sample's category icons and icon sets for a screen of so many pixels a
+# unit, made once; prints their folder.
+make_sample_icons() {
+    local icons="$root/build/sample-icons/$((16 * $1))" drawing
+    for drawing in "$root"/device/category-icons/*.svg; do
+        render "$drawing" $((16 * $1)) "$icons/$(basename "$drawing" .svg).bmp" \
+            -background white -flatten -type TrueColor
+    done
+    make_icon_set Plain "$root/device/icon-sets/Plain" $((12 * $1)) png
+    make_icon_set Bold "$root/device/icon-sets/Bold" $((12 * $1)) tga
+    make_icon_set Classic "$root/resources/art/symbols" $((12 * $1)) bmp
     echo "$icons"
 }
 
@@ -119,9 +147,10 @@ with_crlf() {
     sed 's/$/\r/' "$1"
 }
 
-# install_sample DIR: the files that a year of use leaves behind.
+# install_sample DIR DPI: the files that a year of use leaves behind.
 install_sample() {
     local c="$1/prefix/drive_c" program="$1/prefix/$install_dir" sample="$root/device" icons file
+    local scale=$(($2 > 96 ? 2 : 1))
     cp -r "$sample/files/." "$c/"
     cp -r "$sample/object-store" "$c/Object Store"
     cp "$sample"/custom-alphabets/*.txt "$program/CustomAlphabets/"
@@ -130,8 +159,9 @@ install_sample() {
     done
     with_crlf "$sample/filters.txt" | iconv -f UTF-8 -t UTF-16LE \
         >"$c/My Documents/Orvane/OVFilters.txt"
-    icons=$(make_sample_icons)
+    icons=$(make_sample_icons $scale)
     cp "$icons"/*.bmp "$program/Icons/"
+    cp -r "$root/build/sample-icons/$((12 * scale))/sets/." "$program/Icons/"
     mkdir -p "$c/My Documents/Icons" "$c/Program Files/Teskel/Icon Sets/18"
     cp "$icons"/{star,anchor}.bmp "$c/My Documents/Icons/"
     cp "$icons"/{book,bulb,house,train}.bmp "$c/Program Files/Teskel/Icon Sets/18/"
@@ -173,7 +203,7 @@ create_device() {
     local registry=("$root/device/platform.reg" "$root/device/program.reg")
     if [ $empty = no ]; then
         registry+=("$root"/device/registry/*.reg)
-        install_sample "$dir"
+        install_sample "$dir" "$dpi"
     fi
     write_screen_registry "$screen" "$dpi" |
         "$root/tools/lib/registry.py" "$dir/prefix" "$dpi" "${registry[@]}" -
