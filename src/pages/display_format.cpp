@@ -5,6 +5,7 @@
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 #include "ui/controls.h"
 
 namespace {
@@ -46,15 +47,15 @@ void DrawArrows(HDC dc, int top) {
                      arrows.Get(), 0, 0, size.bmWidth, size.bmHeight, kArrowsMask);
 }
 
-int LineHeight(HWND window, HFONT font) {
-    HDC dc = GetDC(window);
-    TEXTMETRIC metric{};
+int LineHeightOf(HFONT font) {
+    HDC screen = GetDC(nullptr);
+    int height = 0;
     {
-        const SelectScope selected(dc, font);
-        GetTextMetrics(dc, &metric);
+        const SelectScope selected(screen, font);
+        height = LineHeight(screen);
     }
-    ReleaseDC(window, dc);
-    return metric.tmHeight;
+    ReleaseDC(nullptr, screen);
+    return height;
 }
 } // namespace
 
@@ -62,7 +63,7 @@ DisplayFormat::DisplayFormat() : sample_(settingsStore) {}
 
 void DisplayFormat::Create(HWND page, HFONT font, UINT id) {
     page_ = page;
-    textHeight_ = LineHeight(page, font);
+    textHeight_ = LineHeightOf(font);
     CreateStrip(page, id, font);
 }
 
@@ -85,13 +86,7 @@ void DisplayFormat::Paint(HDC dc, int width) {
 }
 
 void DisplayFormat::RedrawSample() const {
-    RECT band{};
-    GetClientRect(page_, &band);
-    band.top = SampleTop();
-    band.bottom = band.top + ScaleY(ItemSample::kHeight);
-    // The sample covers its band: erasing it first would flicker.
-    InvalidateRect(page_, &band, FALSE);
-    UpdateWindow(page_);
+    ItemSample::Redraw(page_, SampleTop());
 }
 
 void DisplayFormat::OnTap(int x, int y) {
@@ -123,6 +118,11 @@ void DisplayFormat::DrawButton(HDC dc, int, const RECT& place, bool hasFocus) {
     DrawText(dc, FormatText().CStr(), -1, &text,
              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     if (hasFocus) DrawFocusRect(dc, &place);
+}
+
+// The arrows alone step by a tap.
+bool DisplayFormat::TakesTaps() const {
+    return false;
 }
 
 void DisplayFormat::Press(int) {

@@ -76,6 +76,8 @@ class FormPage : public SettingsPage {
     // A path row's browse button was tapped: `path` gives the one shown and receives the chosen
     // one; false when the user cancels.
     virtual bool BrowsePath(HWND window, const FormRow& row, WideString& path);
+    // Stores what the rows show, the part of SaveValues that follows the hiding of the tab.
+    void SaveRows(HWND window);
 
   private:
     template <typename Wanted>

@@ -7,6 +7,7 @@
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 #include "ui/controls.h"
 
 namespace {
@@ -21,13 +22,6 @@ constexpr int kComboDropHeight = 100;
 constexpr int kButtonWidth = 40;
 constexpr int kButtonPitch = 45;
 constexpr int kEntryMargins = 8;
-
-int TextWidth(HDC dc, const WideString& text) {
-    SIZE size{};
-    GetTextExtentExPoint(dc, text.CStr(), static_cast<int>(text.Length()), 0, nullptr, nullptr,
-                         &size);
-    return size.cx;
-}
 
 WideString EntryText(HWND combo, WPARAM entry) {
     const LRESULT length = SendMessage(combo, CB_GETLBTEXTLEN, entry, 0);

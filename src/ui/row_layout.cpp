@@ -19,16 +19,10 @@ constexpr int kTextWidth = 100;
 constexpr int kTextColumn = 120; // From one column to the other.
 constexpr int kTextLabelHeight = 16;
 constexpr int kTextPitch = 26;
-
-int ClientWidth(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return client.right;
-}
 } // namespace
 
 RowLayout::RowLayout(HWND page, HFONT font, int top)
-    : page_(page), font_(font), width_(ClientWidth(page)), y_(ScaleY(top)) {}
+    : page_(page), font_(font), width_(ClientSize(page).cx), y_(ScaleY(top)) {}
 
 void RowLayout::Skip(int units) {
     y_ += ScaleY(units);
