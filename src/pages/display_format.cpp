@@ -46,24 +46,13 @@ void DrawArrows(HDC dc, int top) {
     TransparentImage(dc, Scale(kArrowsLeft), top, Scale(2 * kArrowWidth), ScaleY(kArrowsHeight),
                      arrows.Get(), 0, 0, size.bmWidth, size.bmHeight, kArrowsMask);
 }
-
-int LineHeightOf(HFONT font) {
-    HDC screen = GetDC(nullptr);
-    int height = 0;
-    {
-        const SelectScope selected(screen, font);
-        height = LineHeight(screen);
-    }
-    ReleaseDC(nullptr, screen);
-    return height;
-}
 } // namespace
 
 DisplayFormat::DisplayFormat() : sample_(settingsStore) {}
 
 void DisplayFormat::Create(HWND page, HFONT font, UINT id) {
     page_ = page;
-    textHeight_ = LineHeightOf(font);
+    textHeight_ = FontMeasure(font).LineHeight();
     CreateStrip(page, id, font);
 }
 

@@ -127,14 +127,8 @@ int ItemRenderer::TimeColumnFor(const ColumnSettings& columns, const LOGFONT& fo
         return timeColumn_;
     }
     int widest = 0;
-    if (const wchar_t* text = WidestTimeText(columns.format)) {
-        HDC screen = GetDC(nullptr);
-        {
-            const SelectScope scope(screen, font_.Get(font));
-            widest = TextWidth(screen, text);
-        }
-        ReleaseDC(nullptr, screen);
-    }
+    if (const wchar_t* text = WidestTimeText(columns.format))
+        widest = FontMeasure(font_.Get(font)).TextWidth(text);
     timeColumn_ = TimeColumn(columns, widest, ScaleAcross);
     timeColumnSettings_ = columns;
     timeColumnFont_ = font;

@@ -191,13 +191,8 @@ void IconChooser::ChooseEntry(int entry) {
 }
 
 void IconChooser::MeasureEntry(MEASUREITEMSTRUCT& entry) const {
-    HDC screen = GetDC(nullptr);
-    {
-        const SelectScope font(screen, Font());
-        const int width = TextWidth(screen, EntryName(static_cast<int>(entry.itemID) - 1));
-        entry.itemWidth = static_cast<UINT>(Scale(kEntryCaption) + width + Scale(kGap));
-    }
-    ReleaseDC(nullptr, screen);
+    const int width = FontMeasure(Font()).TextWidth(EntryName(static_cast<int>(entry.itemID) - 1));
+    entry.itemWidth = static_cast<UINT>(Scale(kEntryCaption) + width + Scale(kGap));
     entry.itemHeight = static_cast<UINT>(ScaleY(kEntryHeight));
 }
 

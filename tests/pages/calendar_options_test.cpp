@@ -348,6 +348,8 @@ TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
     SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
         if (!FindWindow(L"#32770", nullptr)) return;
         EXPECT_FALSE(IsWindowEnabled(mainWindow));
+        EXPECT_EQ(settingsStore.dNumOfDays.value, 12u) << "stored before the user is told";
+        EXPECT_EQ(TitleOrder(), "102345");
         KillTimer(nullptr, timer);
         DestroyWindow(mainWindow);
     });

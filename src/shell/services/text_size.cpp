@@ -12,3 +12,19 @@ int LineHeight(HDC dc) {
     GetTextMetrics(dc, &metrics);
     return metrics.tmHeight;
 }
+
+FontMeasure::FontMeasure(HFONT font)
+    : screen_(GetDC(nullptr)), previous_(SelectObject(screen_, font)) {}
+
+FontMeasure::~FontMeasure() {
+    SelectObject(screen_, previous_);
+    ReleaseDC(nullptr, screen_);
+}
+
+int FontMeasure::TextWidth(const WideString& text) const {
+    return ::TextWidth(screen_, text);
+}
+
+int FontMeasure::LineHeight() const {
+    return ::LineHeight(screen_);
+}
