@@ -1,6 +1,7 @@
 #include "pages/calendar_options.h"
 
 #include "pages/calendar_samples.h"
+#include "pages/shared_choices.h"
 #include "pages/title_order.h"
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"
@@ -15,10 +16,6 @@ namespace {
 constexpr UINT kCompletedChoices[] = {
     IDS_CALENDAR_TASKS_COMPLETED_NONE, IDS_CALENDAR_TASKS_COMPLETED_TODAY,
     IDS_CALENDAR_TASKS_COMPLETED_FROM_TODAY, IDS_CALENDAR_TASKS_COMPLETED_ALL};
-constexpr UINT kLimitChoices[] = {IDS_FUTURE_LIMIT_NONE,   IDS_FUTURE_LIMIT_DAY,
-                                  IDS_FUTURE_LIMIT_2_DAYS, IDS_FUTURE_LIMIT_3_DAYS,
-                                  IDS_FUTURE_LIMIT_WEEK,   IDS_FUTURE_LIMIT_2_WEEKS,
-                                  IDS_FUTURE_LIMIT_MONTH,  IDS_FUTURE_LIMIT_3_MONTHS};
 constexpr UINT kSortChoices[] = {
     IDS_CALENDAR_TASKS_SORT_DUE,        IDS_CALENDAR_TASKS_SORT_START,
     IDS_CALENDAR_TASKS_SORT_IMPORTANCE, IDS_CALENDAR_TASKS_SORT_SUBJECT,
@@ -26,12 +23,9 @@ constexpr UINT kSortChoices[] = {
     IDS_CALENDAR_TASKS_SORT_DEVICE};
 constexpr UINT kSkipChoices[] = {IDS_CALENDAR_TASKS_SKIP_NONE, IDS_CALENDAR_TASKS_SKIP_SATURDAY,
                                  IDS_CALENDAR_TASKS_SKIP_SUNDAY, IDS_CALENDAR_TASKS_SKIP_BOTH};
-constexpr UINT kBreakChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE_PLAIN, IDS_BREAK_LINE_DOTTED,
-                                  IDS_BREAK_LINE_SHADED};
 constexpr UINT kTimeLineChoices[] = {IDS_CALENDAR_DAYS_TIME_LINES_NONE,
                                      IDS_CALENDAR_DAYS_TIME_LINES_TODAY,
                                      IDS_CALENDAR_DAYS_TIME_LINES_ALL};
-constexpr UINT kFoldingChoices[] = {IDS_FOLDING_ALL, IDS_FOLDING_NONE, IDS_FOLDING_AS_LEFT};
 constexpr UINT kMonthTapChoices[] = {IDS_CALENDAR_MONTH_TAP_GO, IDS_CALENDAR_MONTH_TAP_OPEN,
                                      IDS_CALENDAR_MONTH_TAP_NEW, IDS_CALENDAR_MONTH_TAP_NOTHING};
 constexpr UINT kMonthTimeLineChoices[] = {IDS_CALENDAR_MONTH_TIME_LINES_NONE,
@@ -55,12 +49,10 @@ bool IsTooLowForPinnedMonth() {
     return settingsStore.dHeightLimit.value < static_cast<uint32_t>(PinnedMonthHeight());
 }
 
-void ExplainPinnedMonth(HWND page) {
+void ExplainPinnedMonth(HWND owner) {
     WideString text;
     text.Format(LanguageText(IDS_CALENDAR_MONTH_PINNED_REFUSAL).CStr(), PinnedMonthHeight());
-    // A page that is about to go is hidden already; the box would leave the main window enabled.
-    MessageBox(IsWindowVisible(page) ? page : GetParent(page), text.CStr(),
-               LanguageText(IDS_CALENDAR_MONTH_PINNED_CAPTION).CStr(), MB_OK);
+    MessageBox(owner, text.CStr(), LanguageText(IDS_CALENDAR_MONTH_PINNED_CAPTION).CStr(), MB_OK);
 }
 
 void ShowTitleOrder(HWND page, int showCommand) {
@@ -81,7 +73,7 @@ constexpr Option kTaskOptions[] = {
     {.kind = OptionKind::Choice,
      .texts = OPTION_TEXTS(TASKS_LIMIT),
      .setting = &SettingsStore::FutureLimitTsksOnClr,
-     .choices = kLimitChoices},
+     .choices = kFutureLimitChoices},
     {.kind = OptionKind::Choice,
      .texts = OPTION_TEXTS(TASKS_SORT),
      .setting = &SettingsStore::TasksSubsortOnCal,
@@ -107,7 +99,7 @@ constexpr Option kDayOptions[] = {
     {.kind = OptionKind::Choice,
      .texts = OPTION_TEXTS(DAYS_BREAK),
      .setting = &SettingsStore::dDayBreaker,
-     .choices = kBreakChoices},
+     .choices = kBreakLineChoices},
     {.kind = OptionKind::Choice,
      .texts = OPTION_TEXTS(DAYS_TIME_LINES),
      .setting = &SettingsStore::TimeLines,

@@ -203,14 +203,9 @@ constexpr IconGroupTable kTaskIconTable{
 void LoadDays(HWND combo) {
     constexpr uint32_t kMost = 30;
     const uint32_t stored = settingsStore.dNumOfDays.value;
-    const auto add = [combo](uint32_t days) {
-        WideString text;
-        text.Format(L"%u", days);
-        AddEntry(combo, text.CStr(), days);
-    };
     for (uint32_t days = 1; days <= kMost; ++days)
-        add(days);
-    if (stored < 1 || stored > kMost) add(stored);
+        AddNumberEntry(combo, days);
+    if (stored < 1 || stored > kMost) AddNumberEntry(combo, stored);
     SelectData(combo, stored);
 }
 
@@ -253,17 +248,18 @@ void CalendarPage::ShowTab(HWND window, int showCommand) {
     } else {
         FormPage::ShowTab(window, showCommand);
     }
+    if (showCommand == SW_HIDE) optionLists_.Leave(window, kTabs[static_cast<size_t>(tab)].firstId);
     InvalidateRect(window, nullptr, TRUE);
-    // Last, since it may end with a message box in whose loop the page goes.
-    if (showCommand == SW_HIDE)
-        optionLists_.Leave(window, kTabs[static_cast<size_t>(tab)].firstId);
-    else
-        UpdateWindow(window);
+    if (showCommand != SW_HIDE) UpdateWindow(window);
 }
 
-void CalendarPage::SaveValues(HWND window, WPARAM wParam) {
-    FormPage::SaveValues(window, wParam);
+void CalendarPage::SaveValues(HWND window, WPARAM) {
+    SaveRows(window);
+    ShowTab(window, SW_HIDE);
     SaveTitleOrder(window, kCalendarTitleOrder);
+    // What is posted to a window that goes is lost. The page is no owner for a box any more, and
+    // in the box's loop it may lose its controls.
+    optionLists_.ExplainRefusal(GetParent(window));
 }
 
 void CalendarPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout) {
@@ -345,6 +341,7 @@ LRESULT CalendarPage::OnToolbarClick(HWND, UINT, WPARAM, LPARAM code) {
 
 LRESULT CalendarPage::OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const UINT id = LOWORD(wParam);
+    if (optionLists_.OnCommand(window, id)) return 0;
     const OptionDetailPanel& panel = optionLists_.Panel();
     const bool isClick = lParam && HIWORD(wParam) == BN_CLICKED;
     if (isClick && (OnTitleOrderButton(window, kCalendarTitleOrder, id) || panel.OnButton(id)))

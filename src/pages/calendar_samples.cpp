@@ -27,12 +27,6 @@ void AddDates(HWND combo, std::span<const DatePicture> pictures) {
         AddEntry(combo, text);
     }
 }
-
-void AddNumber(HWND combo, const wchar_t* format, int number) {
-    WideString text;
-    text.Format(format, number);
-    AddEntry(combo, text.CStr());
-}
 } // namespace
 
 void AddDueDates(HWND combo) {
@@ -79,29 +73,26 @@ void AddStartHours(HWND combo) {
 }
 
 void AddLengths(HWND combo) {
-    constexpr int kShortest = 6;
-    constexpr int kLongest = 24;
-    for (int hours = kShortest; hours <= kLongest; ++hours)
-        AddNumber(combo, L"%d", hours);
+    constexpr uint32_t kShortest = 6;
+    constexpr uint32_t kLongest = 24;
+    for (uint32_t hours = kShortest; hours <= kLongest; ++hours)
+        AddNumberEntry(combo, hours);
 }
 
 void AddDayEnds(HWND combo) {
-    constexpr int kLast = 8;
-    for (int hour = 0; hour <= kLast; ++hour)
-        AddNumber(combo, settingsStore.twelveHourClock ? L"%d:00 AM" : L"%d:00", hour);
+    constexpr uint32_t kLast = 8;
+    for (uint32_t hour = 0; hour <= kLast; ++hour)
+        AddNumberEntry(combo, hour, settingsStore.twelveHourClock ? L"%u:00 AM" : L"%u:00");
 }
 
 void AddFactors(HWND combo) {
-    for (const int factor : {1, 2})
-        AddNumber(combo, L"%d", factor);
+    for (const uint32_t factor : {1U, 2U})
+        AddNumberEntry(combo, factor);
 }
 
 void AddIconSizes(HWND combo) {
     constexpr int kSmallest = 6;
     constexpr int kLargest = 14;
-    for (int units = kSmallest; units <= kLargest; ++units) {
-        WideString text;
-        text.Format(L"%d", Scale(units));
-        AddEntry(combo, text.CStr(), static_cast<uint32_t>(Scale(units)));
-    }
+    for (int units = kSmallest; units <= kLargest; ++units)
+        AddNumberEntry(combo, static_cast<uint32_t>(Scale(units)));
 }

@@ -5,6 +5,7 @@
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 #include "ui/controls.h"
 
 namespace {
@@ -45,24 +46,13 @@ void DrawArrows(HDC dc, int top) {
     TransparentImage(dc, Scale(kArrowsLeft), top, Scale(2 * kArrowWidth), ScaleY(kArrowsHeight),
                      arrows.Get(), 0, 0, size.bmWidth, size.bmHeight, kArrowsMask);
 }
-
-int LineHeight(HWND window, HFONT font) {
-    HDC dc = GetDC(window);
-    TEXTMETRIC metric{};
-    {
-        const SelectScope selected(dc, font);
-        GetTextMetrics(dc, &metric);
-    }
-    ReleaseDC(window, dc);
-    return metric.tmHeight;
-}
 } // namespace
 
 DisplayFormat::DisplayFormat() : sample_(settingsStore) {}
 
 void DisplayFormat::Create(HWND page, HFONT font, UINT id) {
     page_ = page;
-    textHeight_ = LineHeight(page, font);
+    textHeight_ = FontMeasure(font).LineHeight();
     CreateStrip(page, id, font);
 }
 
@@ -85,13 +75,7 @@ void DisplayFormat::Paint(HDC dc, int width) {
 }
 
 void DisplayFormat::RedrawSample() const {
-    RECT band{};
-    GetClientRect(page_, &band);
-    band.top = SampleTop();
-    band.bottom = band.top + ScaleY(ItemSample::kHeight);
-    // The sample covers its band: erasing it first would flicker.
-    InvalidateRect(page_, &band, FALSE);
-    UpdateWindow(page_);
+    ItemSample::Redraw(page_, SampleTop());
 }
 
 void DisplayFormat::OnTap(int x, int y) {
@@ -123,6 +107,11 @@ void DisplayFormat::DrawButton(HDC dc, int, const RECT& place, bool hasFocus) {
     DrawText(dc, FormatText().CStr(), -1, &text,
              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     if (hasFocus) DrawFocusRect(dc, &place);
+}
+
+// The arrows alone step by a tap.
+bool DisplayFormat::TakesTaps() const {
+    return false;
 }
 
 void DisplayFormat::Press(int) {

@@ -5,7 +5,7 @@
 
 // The appointment display format: two arrows, the number with what it means, and a sample. The
 // arrows are painted on the page and tapped there; for keys the text is the stop of the focus,
-// where Left and Right step the number. A step is stored at once.
+// where Left and Right step the number and Enter steps it up. A step is stored at once.
 class DisplayFormat final : private ButtonStrip {
   public:
     DisplayFormat();
@@ -29,6 +29,7 @@ class DisplayFormat final : private ButtonStrip {
     [[nodiscard]] bool IsOffered(int button) const override;
     [[nodiscard]] WideString NameOf(int button) const override;
     void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) override;
+    [[nodiscard]] bool TakesTaps() const override;
     void Press(int button) override;
     bool Step(bool forward) override;
 

@@ -73,14 +73,8 @@ int RowTop(int row) {
     return ScaleY(kTop + row * kRowPitch);
 }
 
-int ClientWidth(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return client.right;
-}
-
 RECT SwatchPlace(HWND dialog) {
-    const int left = ClientWidth(dialog) - Scale(kSwatchFromRight);
+    const int left = ClientSize(dialog).cx - Scale(kSwatchFromRight);
     const int top = RowTop(kColourRow);
     return {left, top, left + Scale(kSwatchWidth), top + ScaleY(kRowHeight)};
 }
@@ -93,7 +87,7 @@ void LayOut(HWND dialog) {
     constexpr int kColourLabelEnd = 110;
     constexpr int kSetFromRight = 50;
     constexpr int kSetWidth = 40;
-    const int width = ClientWidth(dialog);
+    const int width = ClientSize(dialog).cx;
     const int height = ScaleY(kRowHeight);
     const auto place = [&](UINT id, int left, int top, int itemWidth, int itemHeight) {
         MoveWindow(GetDlgItem(dialog, static_cast<int>(id)), left, top, itemWidth, itemHeight,

@@ -11,12 +11,6 @@ constexpr UINT kPathEdit = 1;
 constexpr UINT kPathClear = 2;
 constexpr UINT kPathBrowse = 3;
 
-SIZE ClientSize(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {client.right, client.bottom};
-}
-
 bool HasRow(HWND window, const FormRow& row) {
     return GetDlgItem(window, static_cast<int>(row.id)) != nullptr;
 }
@@ -154,6 +148,10 @@ void FormPage::ShowTab(HWND window, int showCommand) {
 
 void FormPage::SaveValues(HWND window, WPARAM) {
     ShowTab(window, SW_HIDE);
+    SaveRows(window);
+}
+
+void FormPage::SaveRows(HWND window) {
     for (const FormRow& row : tables_.rows) {
         // What the platform offers may have changed since: only what the page shows is saved.
         if (HasRow(window, row)) SaveRow(window, row);

@@ -85,6 +85,8 @@ class FormPage : public SettingsPage {
     virtual bool BrowsePath(HWND window, const FormRow& row, WideString& path);
     // Enables by the table's rules; done whenever a box or a drop-down list was changed.
     void ApplyRules(HWND window) const;
+    // Stores what the rows show, the part of SaveValues that follows the hiding of the tab.
+    void SaveRows(HWND window);
 
   private:
     template <typename Wanted>

@@ -75,16 +75,10 @@ bool IsScreenWide() {
     return width >= kVgaWidth;
 }
 
-void AddNumber(HWND combo, int number) {
-    WideString text;
-    text.Format(L"%d", number);
-    AddEntry(combo, text.CStr());
-}
-
 void FillLoadingDelays(HWND combo) {
-    constexpr int kLongest = 5; // Seconds.
-    for (int delay = 0; delay <= kLongest; ++delay)
-        AddNumber(combo, delay);
+    constexpr uint32_t kLongest = 5; // Seconds.
+    for (uint32_t delay = 0; delay <= kLongest; ++delay)
+        AddNumberEntry(combo, delay);
 }
 
 constexpr FormRow kRows[] = {
@@ -274,12 +268,12 @@ constexpr EnablingRule kRules[] = {
 constexpr FormTables kTables{kTabs, kRows, kRules};
 
 void FillHeights(HWND combo, bool withZero, uint32_t current) {
-    constexpr int kLowest = 80;
-    constexpr int kHighest = 600;
-    constexpr int kStep = 20;
-    if (withZero) AddNumber(combo, 0);
-    for (int height = kLowest; height <= kHighest; height += kStep)
-        AddNumber(combo, height);
+    constexpr uint32_t kLowest = 80;
+    constexpr uint32_t kHighest = 600;
+    constexpr uint32_t kStep = 20;
+    if (withZero) AddNumberEntry(combo, 0);
+    for (uint32_t height = kLowest; height <= kHighest; height += kStep)
+        AddNumberEntry(combo, height);
     WideString text;
     text.Format(L"%d", static_cast<int>(current));
     SetWindowText(combo, text.CStr());

@@ -1,6 +1,7 @@
 #include "pages/option_lists.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
@@ -30,7 +31,10 @@ void FillList(HWND list, std::span<const Option> options) {
 void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> lists,
                          UINT firstPanelId) {
     lists_ = lists;
+    explainCommand_ = firstPanelId + OptionDetailPanel::kIdCount;
+    placedFor_ = {};
     shown_ = nullptr;
+    refused_ = nullptr;
     // The panel stands above the lists, and so do its keys.
     panel_.Create(page, font, firstPanelId, kTop);
     for (const OptionList& list : lists) {
@@ -39,17 +43,18 @@ void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> list
     }
 }
 
-void OptionLists::Place(HWND page) const {
-    RECT client{};
-    GetClientRect(page, &client);
+void OptionLists::Place(HWND page) {
+    const SIZE size = ClientSize(page);
+    if (size.cx == placedFor_.cx && size.cy == placedFor_.cy) return;
+    placedFor_ = size;
     const int left = Scale(kMargin);
     const int top = ScaleY(kTop);
     // Little is left of a low screen while the input panel covers its half.
-    const int height = std::max(0L, client.bottom - ScaleY(kBelowTop) - top);
+    const int height = std::max(0L, size.cy - ScaleY(kBelowTop) - top);
     for (const OptionList& list : lists_) {
         HWND control = GetDlgItem(page, static_cast<int>(list.listId));
-        PlaceControl(control, {left, top + ScaleY(OptionDetailPanel::kHeight),
-                               client.right - 2 * left, height});
+        PlaceControl(control,
+                     {left, top + ScaleY(OptionDetailPanel::kHeight), size.cx - 2 * left, height});
         FitColumn(control);
     }
     panel_.Place();
@@ -57,9 +62,19 @@ void OptionLists::Place(HWND page) const {
 
 void OptionLists::Leave(HWND page, UINT listId) {
     if (!ListOfId(listId)) return;
-    const Option* refused = StoreShown(page);
+    StoreShown(page);
     ClearSelection(GetDlgItem(page, static_cast<int>(listId)));
-    if (refused) refused->explain(page);
+}
+
+bool OptionLists::OnCommand(HWND page, UINT id) {
+    if (id != explainCommand_) return false;
+    ExplainRefusal(page);
+    return true;
+}
+
+void OptionLists::ExplainRefusal(HWND owner) {
+    // Nothing of this object is touched behind the message box.
+    if (const Option* option = std::exchange(refused_, nullptr)) option->explain(owner);
 }
 
 void OptionLists::OnNotify(HWND page, const NMHDR& header) {
@@ -87,8 +102,7 @@ void OptionLists::OnItemChanged(HWND page, const OptionList& list, const NMLISTV
     if (change.uNewState & LVIS_SELECTED) {
         Present(page, option);
     } else if (shown_ == &option) {
-        const Option* refused = StoreShown(page);
-        if (refused) refused->explain(page);
+        StoreShown(page);
     }
 }
 
@@ -129,17 +143,22 @@ void OptionLists::PresentChoice(const Option& option, const wchar_t* label, cons
         SelectIndex(combo, 0);
 }
 
-const Option* OptionLists::StoreShown(HWND page) {
+void OptionLists::Refuse(HWND page, const Option& option) {
+    refused_ = &option;
+    PostMessage(page, WM_COMMAND, explainCommand_, 0);
+}
+
+void OptionLists::StoreShown(HWND page) {
     // Off the panel first: what follows may deselect the row once more.
-    const Option* option = shown_;
-    shown_ = nullptr;
-    if (!option) return nullptr;
-    bool refused = false;
+    const Option* option = std::exchange(shown_, nullptr);
+    if (!option) return;
     switch (option->kind) {
-    case OptionKind::Check:
-        refused = panel_.IsChecked() && option->refuses && option->refuses();
+    case OptionKind::Check: {
+        const bool refused = panel_.IsChecked() && option->refuses && option->refuses();
         (settingsStore.*option->setting).Set(panel_.IsChecked() && !refused ? 1 : 0);
+        if (refused) Refuse(page, *option);
         break;
+    }
     case OptionKind::Choice:
         (settingsStore.*option->setting).Set(ChosenNumber(*option));
         break;
@@ -154,7 +173,6 @@ const Option* OptionLists::StoreShown(HWND page) {
         break;
     }
     panel_.Hide();
-    return refused ? option : nullptr;
 }
 
 uint32_t OptionLists::ChosenNumber(const Option& option) const {

@@ -42,10 +42,10 @@ struct Option {
 
     int (*tipNumber)() = nullptr; // For a tip that is a format of one number.
 
-    // A ticked box that is refused is stored as 0, and then the page tells the user why. The page
-    // and all that belongs to it may be gone when `explain` returns.
+    // A ticked box that is refused is stored as 0, and then a message box tells the user why. Its
+    // owner, and with it the page, may be gone when `explain` returns.
     bool (*refuses)() = nullptr;
-    void (*explain)(HWND page) = nullptr;
+    void (*explain)(HWND owner) = nullptr;
 
     void (*showCustom)(HWND page, int showCommand) = nullptr;
 };
@@ -57,18 +57,28 @@ struct OptionList {
 
 class OptionLists {
   public:
+    // Of the panel's controls and, behind them, of the command below.
+    static constexpr UINT kIdCount = OptionDetailPanel::kIdCount + 1;
+
     // Makes the panel and the lists, hidden. The table must outlive the object.
     void Create(HWND page, HFONT font, std::span<const OptionList> lists, UINT firstPanelId);
-    // Places everything on the page's present size.
-    void Place(HWND page) const;
+    // Places everything on the page when its size has changed.
+    void Place(HWND page);
 
     // Stores the selected option of a list that is about to be hidden, which leaves nothing
     // selected and the panel hidden. An id that is no list's does nothing.
     void Leave(HWND page, UINT listId);
 
-    // The page's notifications; those of other controls are passed over. Like `Leave` it may end
-    // with a message box, in whose loop the page, and this object, may go.
+    // The page's notifications; those of other controls are passed over.
     void OnNotify(HWND page, const NMHDR& header);
+
+    // A list tells of a lost selection in the middle of its work, so a refusal is not explained
+    // there: in the message box's loop the page may go, and the list with it. The lists post a
+    // command to the page instead; true when it is theirs. The page, and this object, may be gone
+    // then.
+    bool OnCommand(HWND page, UINT id);
+    // Explains at once a refusal that no command has explained yet, as when the page closes.
+    void ExplainRefusal(HWND owner);
 
     [[nodiscard]] const OptionDetailPanel& Panel() const { return panel_; }
 
@@ -77,11 +87,15 @@ class OptionLists {
     void OnItemChanged(HWND page, const OptionList& list, const NMLISTVIEW& change);
     void Present(HWND page, const Option& option);
     void PresentChoice(const Option& option, const wchar_t* label, const wchar_t* tip);
-    // Takes the shown option off the panel. Gives it when it was refused, else null.
-    const Option* StoreShown(HWND page);
+    // Takes the shown option off the panel.
+    void StoreShown(HWND page);
+    void Refuse(HWND page, const Option& option);
     [[nodiscard]] uint32_t ChosenNumber(const Option& option) const;
 
     std::span<const OptionList> lists_;
     OptionDetailPanel panel_;
-    const Option* shown_ = nullptr; // The option on the panel.
+    UINT explainCommand_ = 0;
+    SIZE placedFor_{};                // The page's size when all was placed, in pixels.
+    const Option* shown_ = nullptr;   // The option on the panel.
+    const Option* refused_ = nullptr; // Refused, and the user does not know why yet.
 };

@@ -21,12 +21,6 @@ constexpr int kListEnd = 28; // From the page's lower edge.
 constexpr int kListRowHeight = 18;
 constexpr int kButtonFromRight = 50;
 constexpr int kButtonWidth = 40;
-
-SIZE ClientSize(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {client.right, client.bottom};
-}
 } // namespace
 
 SampleBand::SampleBand(HWND page) : width_(ClientSize(page).cx) {}

@@ -8,23 +8,13 @@
 #include "resource_ids.h"
 #include "settings/settings_store.h"
 #include "shell/services/application.h"
-#include "shell/services/scaling.h"
 #include "shell/services/today_screen.h"
 #include "ui/controls.h"
 #include "ui/list_items.h"
 #include "ui/messages.h"
 
 namespace {
-constexpr int kColumnWidth = 300;
 constexpr int kMaxName = 255;
-
-void InsertName(HWND list, int row, const WideString& name) {
-    LVITEM item{};
-    item.mask = LVIF_TEXT;
-    item.iItem = row;
-    item.pszText = const_cast<wchar_t*>(name.CStr());
-    SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
-}
 
 WideString NameOfRow(HWND list, int row) {
     wchar_t name[kMaxName + 1] = L"";
@@ -56,17 +46,10 @@ void AdoptLoadedScheme(HWND owner) {
 } // namespace
 
 void FillSchemeList(HWND list, HFONT font) {
-    SendMessage(list, LVM_DELETEALLITEMS, 0, 0);
-    SendMessage(list, LVM_DELETECOLUMN, 0, 0);
-    SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
+    ResetList(list);
     SendMessage(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), 0);
-    LVCOLUMN column{};
-    column.mask = LVCF_WIDTH;
-    column.cx = Scale(kColumnWidth);
-    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
-    int row = 0;
     for (const WideString& name : SchemeFileNames())
-        InsertName(list, row++, name);
+        AddRow(list, name.CStr());
     FitColumn(list);
 }
 
@@ -82,7 +65,7 @@ int SaveScheme(HWND owner, HWND nameBox, HWND list) {
     }
     WriteScheme(name.CStr(), categoryStore);
     name.Append(L".scm");
-    InsertName(list, 0, name);
+    InsertRow(list, 0, name.CStr());
     FitColumn(list);
     SetWindowText(nameBox, L"");
     ShowMessage(owner, IDS_SCHEME_SAVED, IDS_SCHEME_SAVED_CAPTION);

@@ -1,5 +1,6 @@
 #include "pages/tasks_page.h"
 
+#include "pages/shared_choices.h"
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
@@ -41,13 +42,6 @@ constexpr FormTab kTabs[] = {
     {IDS_TAB_TASKS_DATES, kCustomDate, kCustomShow},
 };
 
-constexpr UINT kFutureLimitChoices[] = {IDS_FUTURE_LIMIT_NONE,   IDS_FUTURE_LIMIT_DAY,
-                                        IDS_FUTURE_LIMIT_2_DAYS, IDS_FUTURE_LIMIT_3_DAYS,
-                                        IDS_FUTURE_LIMIT_WEEK,   IDS_FUTURE_LIMIT_2_WEEKS,
-                                        IDS_FUTURE_LIMIT_MONTH,  IDS_FUTURE_LIMIT_3_MONTHS};
-constexpr UINT kBreakLineChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE_PLAIN,
-                                      IDS_BREAK_LINE_DOTTED, IDS_BREAK_LINE_SHADED};
-constexpr UINT kFoldStartChoices[] = {IDS_FOLDING_ALL, IDS_FOLDING_NONE, IDS_FOLDING_AS_LEFT};
 constexpr UINT kCustomShowChoices[] = {IDS_TASKS_CUSTOM_DATE_SHOW_START,
                                        IDS_TASKS_CUSTOM_DATE_SHOW_DUE,
                                        IDS_TASKS_CUSTOM_DATE_SHOW_BOTH};
@@ -169,7 +163,7 @@ constexpr FormRow kRows[] = {
      .labelId = kFoldStartLabel,
      .id = kFoldStart,
      .text = IDS_TITLES_FOLD_START,
-     .choices = kFoldStartChoices,
+     .choices = kFoldingChoices,
      .setting = &SettingsStore::TsksFoldingType},
     {.tab = 1,
      .kind = RowKind::Check,
@@ -256,22 +250,13 @@ LRESULT TasksPage::OnPaint(HWND window, UINT, WPARAM, LPARAM) {
     return 0;
 }
 
-void TasksPage::RedrawSample(HWND window) const {
-    RECT band{};
-    GetClientRect(window, &band);
-    band.top = sampleTop_;
-    band.bottom = sampleTop_ + ScaleY(ItemSample::kHeight);
-    // The sample covers its band: erasing it first would flicker.
-    InvalidateRect(window, &band, FALSE);
-    UpdateWindow(window);
-}
-
 LRESULT TasksPage::OnToolbarMenuSelect(HWND window, UINT, WPARAM value, LPARAM code) {
-    if (icons_.OnMenuSelect(code, static_cast<uint32_t>(value))) RedrawSample(window);
+    if (icons_.OnMenuSelect(code, static_cast<uint32_t>(value)))
+        ItemSample::Redraw(window, sampleTop_);
     return 0;
 }
 
 LRESULT TasksPage::OnToolbarClick(HWND window, UINT, WPARAM, LPARAM code) {
-    if (icons_.OnClick(code)) RedrawSample(window);
+    if (icons_.OnClick(code)) ItemSample::Redraw(window, sampleTop_);
     return 0;
 }

@@ -19,8 +19,6 @@ class TasksPage final : public FormPage {
     void PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout) override;
 
   private:
-    void RedrawSample(HWND window) const;
-
     IconGroup icons_;
     ItemSample sample_;
     int sampleTop_ = 0; // Pixels; below the icon choosers.

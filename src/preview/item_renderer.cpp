@@ -5,8 +5,10 @@
 
 #include "preview/appointment_texts.h"
 #include "preview/clock.h"
+#include "preview/item_icons.h"
 #include "preview/line_painter.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 
 namespace {
 
@@ -94,8 +96,8 @@ int ItemRenderer::Appointment(DrawingPass pass, HDC dc, const RECT& place, const
                                                 TextWidth(dc, texts.label), ScaleAcross);
     const LinePainter painter(dc, style, place.top);
     if (columns.leadingRects) painter.LeadingRect(layout.leadingRect, LeadingRectColour(store_));
-    painter.LeftIconRow(symbols_, layout.leftIcons, columns.appointmentIcons);
-    painter.RightIconRow(symbols_, place.right, icons);
+    painter.LeftIconRow(layout.leftIcons, columns.appointmentIcons);
+    painter.RightIconRow(place.right, icons);
     DrawTexts(dc, place, style, layout, texts, hasSecondLine);
     return height;
 }
@@ -113,8 +115,8 @@ int ItemRenderer::Task(DrawingPass pass, HDC dc, const RECT& place, const Previe
     const LineLayout layout = LayOutTask(space, store_.IndentItems.value == 1, leftIcons,
                                          TextWidth(dc, item.label), ScaleAcross);
     const LinePainter painter(dc, style, place.top);
-    painter.LeftIconRow(symbols_, layout.leftIcons, leftIcons);
-    painter.RightIconRow(symbols_, place.right, icons);
+    painter.LeftIconRow(layout.leftIcons, leftIcons);
+    painter.RightIconRow(place.right, icons);
     painter.Text(item.label, layout.label, layout.subject);
     painter.Text(item.subject, layout.subject, layout.subjectEnd);
     return height;
@@ -125,14 +127,8 @@ int ItemRenderer::TimeColumnFor(const ColumnSettings& columns, const LOGFONT& fo
         return timeColumn_;
     }
     int widest = 0;
-    if (const wchar_t* text = WidestTimeText(columns.format)) {
-        HDC screen = GetDC(nullptr);
-        {
-            const SelectScope scope(screen, font_.Get(font));
-            widest = TextWidth(screen, text);
-        }
-        ReleaseDC(nullptr, screen);
-    }
+    if (const wchar_t* text = WidestTimeText(columns.format))
+        widest = FontMeasure(font_.Get(font)).TextWidth(text);
     timeColumn_ = TimeColumn(columns, widest, ScaleAcross);
     timeColumnSettings_ = columns;
     timeColumnFont_ = font;

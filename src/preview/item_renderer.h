@@ -2,11 +2,8 @@
 
 #include <windows.h>
 
-#include <span>
-
 #include "preview/item_layout.h"
 #include "preview/list_background.h"
-#include "preview/symbol_images.h"
 #include "preview/text_style.h"
 #include "preview/time_text.h"
 #include "settings/settings_store.h"
@@ -50,7 +47,6 @@ class ItemRenderer {
     int TimeColumnFor(const ColumnSettings& columns, const LOGFONT& font);
 
     const SettingsStore& store_;
-    SymbolImages symbols_;
     ListBackground background_;
     CachedFont font_;
     // The time column's width in pixels, -1 until it is known, and what it was worked out from.

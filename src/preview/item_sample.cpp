@@ -62,3 +62,13 @@ void ItemSample::PaintTask(HDC page, int top, int width, const WideString& subje
         return renderer_.Task(pass, dc, place, task, left, store_.TasksRightIcons.value);
     });
 }
+
+void ItemSample::Redraw(HWND page, int top) {
+    RECT band{};
+    GetClientRect(page, &band);
+    band.top = top;
+    band.bottom = top + ScaleY(kHeight);
+    // The sample covers its band: erasing it first would flicker.
+    InvalidateRect(page, &band, FALSE);
+    UpdateWindow(page);
+}

@@ -16,13 +16,15 @@ class ItemSample {
     explicit ItemSample(const SettingsStore& store) : store_(store), renderer_(store) {}
 
     // Paint the band from x 0 to `width` at y `top` (pixels) of a page; nothing when there is no
-    // room or no memory for it. The page invalidates the band when a setting changed, without
-    // erasing it.
+    // room or no memory for it.
     // An appointment of today from 12:00 to 15:00.
     void PaintAppointment(HDC page, int top, int width, const WideString& subject,
                           const WideString& location);
     // A task without a date, with the icons of the Tasks tab.
     void PaintTask(HDC page, int top, int width, const WideString& subject);
+
+    // A setting changed: has the page paint the band at y `top` at once.
+    static void Redraw(HWND page, int top);
 
   private:
     const SettingsStore& store_;

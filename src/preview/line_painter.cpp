@@ -1,6 +1,8 @@
 #include "preview/line_painter.h"
 
+#include "preview/item_icons.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 
 namespace {
 
@@ -11,19 +13,6 @@ int ScaleAcross(int units) {
 }
 
 } // namespace
-
-int TextWidth(HDC dc, const WideString& text) {
-    if (text.IsEmpty()) return 0;
-    RECT box{0, 0, 200, 200};
-    DrawText(dc, text.CStr(), -1, &box, DT_SINGLELINE | DT_NOPREFIX | DT_CALCRECT);
-    return box.right - box.left;
-}
-
-int LineHeight(HDC dc) {
-    TEXTMETRIC metrics{};
-    GetTextMetrics(dc, &metrics);
-    return metrics.tmHeight;
-}
 
 LinePainter::LinePainter(HDC dc, const TextStyle& style, int top)
     : dc_(dc), style_(style), top_(top), height_(LineHeight(dc)) {}
@@ -53,20 +42,20 @@ void LinePainter::LeadingRect(int left, COLORREF colour) const {
     FillRect(dc_, &rect, brush.Get());
 }
 
-void LinePainter::LeftIconRow(SymbolImages& symbols, int left, const LeftIcons& icons) const {
+void LinePainter::LeftIconRow(int left, const LeftIcons& icons) const {
     int number = 0;
     for (const uint32_t flag : icons) {
         if (flag == 0) continue;
-        symbols.Draw(dc_, LeftIconPlace(left, number++, ScaleAcross),
-                     MiddleFor(ScaleY(kSymbolSize)), flag);
+        DrawItemIcon(dc_, LeftIconPlace(left, number++, ScaleAcross),
+                     MiddleFor(ScaleY(kItemIconSize)), flag);
     }
 }
 
-void LinePainter::RightIconRow(SymbolImages& symbols, int right, uint32_t icons) const {
+void LinePainter::RightIconRow(int right, uint32_t icons) const {
     int number = 0;
     for (uint32_t rest = icons; rest != 0; rest &= rest - 1) {
         const uint32_t lowest = rest & (0 - rest);
-        symbols.Draw(dc_, RightIconPlace(right, number++, ScaleAcross),
-                     MiddleFor(ScaleY(kSymbolSize)), lowest);
+        DrawItemIcon(dc_, RightIconPlace(right, number++, ScaleAcross),
+                     MiddleFor(ScaleY(kItemIconSize)), lowest);
     }
 }

@@ -3,13 +3,8 @@
 #include <windows.h>
 
 #include "preview/item_layout.h"
-#include "preview/symbol_images.h"
 #include "preview/text_style.h"
 #include "shell/services/wide_string.h"
-
-// The width of a text on one line and the height of a line, in pixels, in a device context's font.
-[[nodiscard]] int TextWidth(HDC dc, const WideString& text);
-[[nodiscard]] int LineHeight(HDC dc);
 
 // Draws the parts of one line of an item, in the font of the device context. Icons and rectangle
 // stand at the middle of the text's height. All places are pixels.
@@ -21,9 +16,9 @@ class LinePainter {
     // A text that is too long ends in an ellipsis.
     void Text(const WideString& text, int left, int right) const;
     void LeadingRect(int left, COLORREF colour) const;
-    void LeftIconRow(SymbolImages& symbols, int left, const LeftIcons& icons) const;
+    void LeftIconRow(int left, const LeftIcons& icons) const;
     // The lowest flag stands at the right edge.
-    void RightIconRow(SymbolImages& symbols, int right, uint32_t icons) const;
+    void RightIconRow(int right, uint32_t icons) const;
 
   private:
     void Letters(const WideString& text, RECT box, COLORREF colour) const;

@@ -13,6 +13,10 @@ constexpr UINT kTipTime = 4000; // and for which it stays.
 ButtonStrip* StripOf(HWND window) {
     return reinterpret_cast<ButtonStrip*>(GetWindowLongPtr(window, GWLP_USERDATA));
 }
+
+POINT PointOf(LPARAM position) {
+    return {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
+}
 } // namespace
 
 ButtonStrip::~ButtonStrip() {
@@ -43,8 +47,7 @@ RECT ButtonStrip::PlaceOf(int button) const {
     return place;
 }
 
-int ButtonStrip::ButtonAt(LPARAM position) const {
-    const POINT point{static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
+int ButtonStrip::ButtonAt(const POINT& point) const {
     for (int button = 0; button < ButtonCount(); ++button) {
         const RECT place = PlaceOf(button);
         if (PtInRect(&place, point)) return button;
@@ -91,12 +94,23 @@ void ButtonStrip::EndRest() {
     resting_ = -1;
 }
 
+bool ButtonStrip::IsRestedOn(int button) const {
+    if (button < 0) return false;
+    if (GetFocus() == window_) return true;
+    // Nothing tells a window that the pointer has left it.
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    ScreenToClient(window_, &pointer);
+    return ButtonAt(pointer) == button;
+}
+
 void ButtonStrip::OnTimer() {
     const int button = resting_;
-    if (toolTip_.IsShown() || button < 0) {
+    if (toolTip_.IsShown() || !IsRestedOn(button)) {
         EndRest();
         return;
     }
+    KillTimer(window_, kRestTimer);
     const WideString name = NameOf(button);
     if (name.IsEmpty()) return;
     RECT place = PlaceOf(button);
@@ -108,8 +122,8 @@ void ButtonStrip::OnTimer() {
 void ButtonStrip::OnPointerDown(int button) {
     if (button < 0 || !IsOffered(button)) return;
     current_ = button;
-    isDown_ = true;
     SetCapture(window_);
+    isDown_ = true;
     SetFocus(window_);
     RestOn(button);
     Redraw();
@@ -119,7 +133,7 @@ void ButtonStrip::OnPointerUp(int button) {
     if (!isDown_) return;
     isDown_ = false;
     ReleaseCapture();
-    if (button == current_)
+    if (button == current_ && TakesTaps())
         PressCurrent();
     else
         EndRest();
@@ -148,6 +162,10 @@ void ButtonStrip::OnDestroy() {
     window_ = nullptr;
 }
 
+bool ButtonStrip::TakesTaps() const {
+    return true;
+}
+
 void ButtonStrip::MeasureEntry(MEASUREITEMSTRUCT&) const {}
 
 void ButtonStrip::DrawEntry(const DRAWITEMSTRUCT&) {}
@@ -160,13 +178,16 @@ LRESULT ButtonStrip::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
     case WM_ERASEBKGND:
         return 1; // Painting covers everything.
     case WM_LBUTTONDOWN:
-        OnPointerDown(ButtonAt(lParam));
+        OnPointerDown(ButtonAt(PointOf(lParam)));
         return 0;
     case WM_MOUSEMOVE:
-        RestOn(ButtonAt(lParam));
+        RestOn(ButtonAt(PointOf(lParam)));
         return 0;
     case WM_LBUTTONUP:
-        OnPointerUp(ButtonAt(lParam));
+        OnPointerUp(ButtonAt(PointOf(lParam)));
+        return 0;
+    case WM_CAPTURECHANGED:
+        isDown_ = false;
         return 0;
     case kMessageStepButton:
         return Step(wParam != 0);

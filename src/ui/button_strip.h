@@ -39,6 +39,8 @@ class ButtonStrip {
     // What the tooltip says; empty for none.
     [[nodiscard]] virtual WideString NameOf(int button) const = 0;
     virtual void DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) = 0;
+    // False for a strip that only keys press: a tap then gives it the focus and no more.
+    [[nodiscard]] virtual bool TakesTaps() const;
     // The strip, and with it this object, may be gone when it returns.
     virtual void Press(int button) = 0;
     // Left or Right was pressed: goes to the next button; false when there is none.
@@ -64,7 +66,8 @@ class ButtonStrip {
     void PressCurrent();
     void RestOn(int button);
     void EndRest();
-    [[nodiscard]] int ButtonAt(LPARAM position) const;
+    [[nodiscard]] bool IsRestedOn(int button) const;
+    [[nodiscard]] int ButtonAt(const POINT& point) const;
 
     HWND window_ = nullptr;
     HFONT font_ = nullptr;

@@ -89,12 +89,6 @@ HWND Item(HWND window, UINT id) {
     return GetDlgItem(window, static_cast<int>(id));
 }
 
-SIZE ClientSize(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {client.right, client.bottom};
-}
-
 bool IsWide(HWND window) {
     return ClientSize(window).cx >= Scale(kWideWindow);
 }

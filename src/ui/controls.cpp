@@ -18,6 +18,12 @@ HWND CreateHiddenControl(HWND parent, const wchar_t* className, const wchar_t* t
     return control;
 }
 
+SIZE ClientSize(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {client.right, client.bottom};
+}
+
 void PlaceControl(HWND control, const ControlPlace& place) {
     if (!control) return;
     RECT now{};
@@ -55,6 +61,12 @@ void SelectIndex(HWND combo, uint32_t index) {
 void AddEntry(HWND combo, const wchar_t* text, uint32_t data) {
     const LRESULT entry = SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
     if (data) SendMessage(combo, CB_SETITEMDATA, static_cast<WPARAM>(entry), data);
+}
+
+void AddNumberEntry(HWND combo, uint32_t number, const wchar_t* format) {
+    WideString text;
+    text.Format(format, number);
+    AddEntry(combo, text.CStr(), number);
 }
 
 uint32_t SelectedData(HWND combo) {

@@ -24,6 +24,8 @@ HWND CreateControl(HWND parent, const wchar_t* className, const wchar_t* text, D
 HWND CreateHiddenControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style,
                          UINT id, const ControlPlace& place, HFONT font);
 
+[[nodiscard]] SIZE ClientSize(HWND window);
+
 // Moves a control; null is passed over.
 void PlaceControl(HWND control, const ControlPlace& place);
 
@@ -43,6 +45,9 @@ void SelectIndex(HWND combo, uint32_t index);
 
 // Adds an entry at the end of a combo box, with a number as its data.
 void AddEntry(HWND combo, const wchar_t* text, uint32_t data = 0);
+
+// Adds a number, written by a format, which is its entry's data too.
+void AddNumberEntry(HWND combo, uint32_t number, const wchar_t* format = L"%u");
 
 // The data of the selected entry, 0xFFFFFFFF where none is selected.
 [[nodiscard]] uint32_t SelectedData(HWND combo);

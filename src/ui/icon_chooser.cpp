@@ -1,9 +1,13 @@
 #include "ui/icon_chooser.h"
 
+#include <algorithm>
+
+#include "preview/item_icons.h"
 #include "resource_ids.h"
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 
 namespace {
 constexpr COLORREF kFrame = RGB(0, 0, 0);
@@ -15,19 +19,19 @@ constexpr int kEntryHeight = 21;
 constexpr int kEntryCaption = 26; // Where an entry's caption begins, behind its icon.
 constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
 
-constexpr DWORD kPatternOrTarget = 0x00FA0089; // The raster operation "pattern or target".
-
 // Turns every second pixel white.
 void Dim(HDC dc, const RECT& place) {
     constexpr WORD kChecks[] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
     const UniqueBitmap pattern(CreateBitmap(8, 8, 1, 1, kChecks));
     const UniqueBrush brush(CreatePatternBrush(pattern.Get()));
-    const SelectScope selected(dc, brush.Get());
-    // The set bits of a pattern take the background's colour, the others the text's.
-    SetBkColor(dc, RGB(255, 255, 255));
-    SetTextColor(dc, RGB(0, 0, 0));
-    PatBlt(dc, place.left, place.top, place.right - place.left, place.bottom - place.top,
-           kPatternOrTarget);
+    const RECT all{0, 0, place.right - place.left, place.bottom - place.top};
+    // By way of a bitmap: the device lays a pattern over a picture with none of its operations, but
+    // a picture over a picture with one.
+    const UniqueBitmap checks(CreateCompatibleBitmap(dc, all.right, all.bottom));
+    const UniqueDc checksDc(CreateCompatibleDC(dc));
+    const SelectScope selected(checksDc.Get(), checks.Get());
+    FillRect(checksDc.Get(), &all, brush.Get()); // White and black, a new device context's colours.
+    BitBlt(dc, place.left, place.top, all.right, all.bottom, checksDc.Get(), 0, 0, SRCPAINT);
 }
 
 void DrawFrame(HDC dc, const RECT& place, COLORREF frame, COLORREF face) {
@@ -37,12 +41,6 @@ void DrawFrame(HDC dc, const RECT& place, COLORREF frame, COLORREF face) {
     FillRect(dc, &inside, frameBrush.Get());
     InflateRect(&inside, -Scale(1), -ScaleY(1));
     FillRect(dc, &inside, faceBrush.Get());
-}
-
-int TextWidth(HDC dc, const WideString& text) {
-    RECT bounds{};
-    DrawText(dc, text.CStr(), -1, &bounds, kTextFormat | DT_CALCRECT);
-    return bounds.right;
 }
 
 // A small triangle that points down.
@@ -70,7 +68,7 @@ void IconChooser::Create(HWND page, HFONT font, const IconChooserKind& kind, uin
     label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(), SS_RIGHT, kind.labelId,
                            {}, font);
     if (!CreateStrip(page, kind.id, font) || kind.choice == IconChoice::Set) return;
-    if (marker_.Create(Window(), images_)) marker_.Show(EntryFlag(ChosenEntry()));
+    if (marker_.Create(Window())) marker_.Show(EntryFlag(ChosenEntry()));
 }
 
 void IconChooser::Place(const ControlPlace& label, const ControlPlace& buttons) const {
@@ -82,16 +80,19 @@ void IconChooser::Place(const ControlPlace& label, const ControlPlace& buttons) 
     if (kind_.choice == IconChoice::One) marker_.Place({frame, frame, side, side});
 }
 
+bool IconChooser::IsFlag(uint32_t value) const {
+    return std::ranges::find(kind_.flags, value, &IconFlag::flag) != kind_.flags.end();
+}
+
 void IconChooser::Withdraw(uint32_t flag) {
-    for (const IconFlag& known : kind_.flags) {
-        if (known.flag != flag) continue;
-        withdrawn_ |= flag;
-        value_ &= ~flag;
-    }
+    if (!IsFlag(flag)) return;
+    withdrawn_ |= flag;
+    value_ &= ~flag;
     Redraw();
 }
 
 void IconChooser::Offer(uint32_t flag) {
+    if (!IsFlag(flag)) return;
     withdrawn_ &= ~flag;
     Redraw();
 }
@@ -124,11 +125,6 @@ uint32_t IconChooser::EntryFlag(int entry) const {
     return entry ? kind_.flags[static_cast<size_t>(entry) - 1].flag : 0;
 }
 
-void IconChooser::DrawIcon(HDC dc, uint32_t flag, const RECT& place) {
-    images_.Draw(dc, (place.left + place.right - Scale(kSymbolSize)) / 2,
-                 (place.top + place.bottom - ScaleY(kSymbolSize)) / 2, flag);
-}
-
 void IconChooser::DrawButton(HDC dc, int button, const RECT& place, bool hasFocus) {
     if (kind_.choice == IconChoice::One) {
         DrawDropDown(dc, place, hasFocus);
@@ -136,7 +132,7 @@ void IconChooser::DrawButton(HDC dc, int button, const RECT& place, bool hasFocu
     }
     const uint32_t flag = EntryFlag(button + 1);
     if (value_ & flag) DrawFrame(dc, place, kChosenFrame, kChosenFace);
-    DrawIcon(dc, flag, place);
+    DrawItemIconIn(dc, place, flag);
     if (!IsOffered(button)) Dim(dc, place);
     RECT focus = place;
     InflateRect(&focus, -Scale(2), -ScaleY(2));
@@ -195,13 +191,8 @@ void IconChooser::ChooseEntry(int entry) {
 }
 
 void IconChooser::MeasureEntry(MEASUREITEMSTRUCT& entry) const {
-    HDC screen = GetDC(nullptr);
-    {
-        const SelectScope font(screen, Font());
-        const int width = TextWidth(screen, EntryName(static_cast<int>(entry.itemID) - 1));
-        entry.itemWidth = static_cast<UINT>(Scale(kEntryCaption) + width + Scale(kGap));
-    }
-    ReleaseDC(nullptr, screen);
+    const int width = FontMeasure(Font()).TextWidth(EntryName(static_cast<int>(entry.itemID) - 1));
+    entry.itemWidth = static_cast<UINT>(Scale(kEntryCaption) + width + Scale(kGap));
     entry.itemHeight = static_cast<UINT>(ScaleY(kEntryHeight));
 }
 
@@ -212,7 +203,7 @@ void IconChooser::DrawEntry(const DRAWITEMSTRUCT& entry) {
     RECT icon = entry.rcItem;
     icon.right = icon.left + Scale(kEntryCaption) - Scale(kGap);
     if (index == ChosenEntry()) DrawFrame(entry.hDC, icon, kChosenFrame, kChosenFace);
-    DrawIcon(entry.hDC, EntryFlag(index), icon);
+    DrawItemIconIn(entry.hDC, icon, EntryFlag(index));
     RECT caption = entry.rcItem;
     caption.left += Scale(kEntryCaption);
     const SelectScope font(entry.hDC, Font());

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <span>
 
-#include "preview/symbol_images.h"
 #include "ui/button_strip.h"
 #include "ui/controls.h"
 #include "ui/icon_marker.h"
@@ -57,6 +56,7 @@ class IconChooser final : private ButtonStrip {
     void Offer(uint32_t flag);
 
   private:
+    [[nodiscard]] bool IsFlag(uint32_t value) const;
     [[nodiscard]] int ButtonCount() const override;
     [[nodiscard]] bool IsOffered(int button) const override;
     [[nodiscard]] WideString NameOf(int button) const override;
@@ -71,12 +71,10 @@ class IconChooser final : private ButtonStrip {
     [[nodiscard]] uint32_t EntryFlag(int entry) const;
     void ChooseFromMenu();
     void ChooseEntry(int entry);
-    void DrawIcon(HDC dc, uint32_t flag, const RECT& place);
     void DrawDropDown(HDC dc, const RECT& place, bool hasFocus) const;
 
     IconChooserKind kind_;
     HWND label_ = nullptr;
-    SymbolImages images_;
     IconMarker marker_; // Of a chooser of one flag.
     uint32_t value_ = 0;
     uint32_t withdrawn_ = 0;

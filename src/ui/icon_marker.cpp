@@ -1,7 +1,7 @@
 #include "ui/icon_marker.h"
 
+#include "preview/item_icons.h"
 #include "shell/services/application.h"
-#include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
 
 namespace {
@@ -19,9 +19,8 @@ IconMarker::~IconMarker() {
     if (window_) SetWindowLongPtr(window_, GWLP_USERDATA, 0);
 }
 
-bool IconMarker::Create(HWND parent, SymbolImages& images) {
+bool IconMarker::Create(HWND parent) {
     RegisterWindowClass(application.instance, WindowProc, nullptr, kClass, WHITE_BRUSH);
-    images_ = &images;
     window_ = CreateControl(parent, kClass, L"", 0, 0, {}, nullptr);
     if (!window_) return false;
     SetWindowLongPtr(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -42,8 +41,7 @@ void IconMarker::Paint() {
     HDC dc = BeginPaint(window_, &paint);
     RECT client{};
     GetClientRect(window_, &client);
-    images_->Draw(dc, (client.right - Scale(kSymbolSize)) / 2,
-                  (client.bottom - ScaleY(kSymbolSize)) / 2, flag_);
+    DrawItemIconIn(dc, client, flag_);
     EndPaint(window_, &paint);
 }
 

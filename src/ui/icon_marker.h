@@ -4,7 +4,6 @@
 
 #include <cstdint>
 
-#include "preview/symbol_images.h"
 #include "ui/controls.h"
 
 // A small window that shows which icon is chosen. Taps on it are its parent's.
@@ -15,9 +14,8 @@ class IconMarker {
     IconMarker& operator=(const IconMarker&) = delete;
     ~IconMarker();
 
-    // Makes the window, at no place yet; false when the platform refuses. It goes with its parent;
-    // the images must outlive it.
-    bool Create(HWND parent, SymbolImages& images);
+    // Makes the window, at no place yet; false when the platform refuses. It goes with its parent.
+    bool Create(HWND parent);
     // In pixels of the parent.
     void Place(const ControlPlace& place) const;
     // An icon's flag; what is none shows nothing.
@@ -28,6 +26,5 @@ class IconMarker {
     void Paint();
 
     HWND window_ = nullptr;
-    SymbolImages* images_ = nullptr;
     uint32_t flag_ = 0;
 };

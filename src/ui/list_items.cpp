@@ -95,18 +95,24 @@ HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight) {
                                     WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
                                         LVS_NOCOLUMNHEADER | LVS_SHOWSELALWAYS,
                                     id, {}, font);
-    SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     // Rows are one pixel higher than the small images, even where none shows. The list view
     // destroys the image list.
     HIMAGELIST images = ImageList_Create(1, ScaleY(rowHeight) - 1, ILC_COLOR, 0, 1);
     SendMessage(list, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
+    ResetList(list);
+    return list;
+}
+
+void ResetList(HWND list) {
+    SendMessage(list, LVM_DELETEALLITEMS, 0, 0);
+    SendMessage(list, LVM_DELETECOLUMN, 0, 0);
+    SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     wchar_t title[] = L"Column";
     LVCOLUMN column{};
     column.mask = LVCF_TEXT | LVCF_WIDTH;
     column.pszText = title;
     column.cx = Scale(kFirstColumnWidth);
     SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
-    return list;
 }
 
 void FitColumn(HWND list) {
@@ -118,9 +124,13 @@ void FitColumn(HWND list) {
 }
 
 void AddRow(HWND list, const wchar_t* text, LPARAM data) {
+    InsertRow(list, RowCount(list), text, data);
+}
+
+void InsertRow(HWND list, int row, const wchar_t* text, LPARAM data) {
     LVITEM item{};
     item.mask = LVIF_TEXT | LVIF_PARAM;
-    item.iItem = RowCount(list);
+    item.iItem = row;
     item.pszText = const_cast<wchar_t*>(text);
     item.lParam = data;
     SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));

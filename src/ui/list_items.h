@@ -12,8 +12,12 @@ HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight);
 // whenever the list's size or number of rows changed.
 void FitColumn(HWND list);
 
-// Adds a row at the end, with a number or a pointer as its data.
+// Empties a list view and gives it its one column anew.
+void ResetList(HWND list);
+
+// Adds a row at the end or before another, with a number or a pointer as its data.
 void AddRow(HWND list, const wchar_t* text, LPARAM data = 0);
+void InsertRow(HWND list, int row, const wchar_t* text, LPARAM data = 0);
 
 [[nodiscard]] int RowCount(HWND list);
 [[nodiscard]] LPARAM RowData(HWND list, int row);

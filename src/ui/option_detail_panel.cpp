@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "resource_ids.h"
-#include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 #include "ui/controls.h"
 
 namespace {
@@ -22,13 +22,6 @@ constexpr int kButtonWidth = 40;
 constexpr int kButtonPitch = 45;
 constexpr int kEntryMargins = 8;
 
-int TextWidth(HDC dc, const WideString& text) {
-    SIZE size{};
-    GetTextExtentExPoint(dc, text.CStr(), static_cast<int>(text.Length()), 0, nullptr, nullptr,
-                         &size);
-    return size.cx;
-}
-
 WideString EntryText(HWND combo, WPARAM entry) {
     const LRESULT length = SendMessage(combo, CB_GETLBTEXTLEN, entry, 0);
     if (length <= 0) return {};
@@ -37,25 +30,13 @@ WideString EntryText(HWND combo, WPARAM entry) {
     return WideString(buffer.data());
 }
 
-int LongestEntry(HDC dc, HWND combo) {
+int LongestEntry(HFONT font, HWND combo) {
+    const FontMeasure measure(font);
     int longest = 0;
     const auto count = static_cast<WPARAM>(SendMessage(combo, CB_GETCOUNT, 0, 0));
     for (WPARAM entry = 0; entry < count; ++entry)
-        longest = std::max(longest, TextWidth(dc, EntryText(combo, entry)));
+        longest = std::max(longest, measure.TextWidth(EntryText(combo, entry)));
     return longest;
-}
-
-// Calls `measure` with a device context in which the font is selected.
-template <typename Measure>
-int Measured(HWND window, HFONT font, Measure measure) {
-    HDC dc = GetDC(window);
-    int pixels = 0;
-    {
-        const SelectScope selected(dc, font);
-        pixels = measure(dc);
-    }
-    ReleaseDC(window, dc);
-    return pixels;
 }
 } // namespace
 
@@ -116,9 +97,7 @@ void OptionDetailPanel::PlaceCombo(int width) const {
     const int value = ScaleY(top_ + kValueTop);
     const int right = width - Scale(kMargin);
     const int gap = Scale(kComboLeft - kLabelWidth);
-    const WideString label = ControlText(Control(ComboLabel));
-    const int labelWidth =
-        Measured(page_, font_, [&label](HDC dc) { return TextWidth(dc, label); });
+    const int labelWidth = FontMeasure(font_).TextWidth(ControlText(Control(ComboLabel)));
     const int left = std::min(Scale(kComboLeft),
                               std::max(Scale(kMargin) + labelWidth + gap, right - entriesWidth_));
     PlaceControl(Control(ComboLabel),
@@ -147,9 +126,8 @@ HWND OptionDetailPanel::ShowCombo(const wchar_t* label, const wchar_t* tip) {
 }
 
 void OptionDetailPanel::FitEntries() {
-    const int longest =
-        Measured(page_, font_, [combo = Combo()](HDC dc) { return LongestEntry(dc, combo); });
-    entriesWidth_ = longest + GetSystemMetrics(SM_CXVSCROLL) + Scale(kEntryMargins);
+    entriesWidth_ =
+        LongestEntry(font_, Combo()) + GetSystemMetrics(SM_CXVSCROLL) + Scale(kEntryMargins);
     RECT client{};
     GetClientRect(page_, &client);
     PlaceCombo(client.right);

@@ -19,15 +19,14 @@ constexpr int kTextWidth = 100;
 constexpr int kTextColumn = 120; // From one column to the other.
 constexpr int kTextLabelHeight = 16;
 constexpr int kTextPitch = 26;
-
 } // namespace
 
-RowLayout::RowLayout(HWND page, HFONT font, int top) : page_(page), font_(font), y_(ScaleY(top)) {
-    RECT client{};
-    GetClientRect(page, &client);
-    width_ = client.right;
-    height_ = client.bottom;
-}
+RowLayout::RowLayout(HWND page, HFONT font, int top)
+    : page_(page),
+      font_(font),
+      width_(ClientSize(page).cx),
+      height_(ClientSize(page).cy),
+      y_(ScaleY(top)) {}
 
 void RowLayout::Skip(int units) {
     y_ += ScaleY(units);

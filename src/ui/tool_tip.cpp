@@ -5,6 +5,7 @@
 #include "shell/services/application.h"
 #include "shell/services/handles.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 #include "shell/services/window_class.h"
 #include "ui/controls.h"
 
@@ -37,14 +38,9 @@ LRESULT CALLBACK ToolTipProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 SIZE SizeOf(const wchar_t* text, HFONT font) {
-    HDC screen = GetDC(nullptr);
-    RECT bounds{};
-    {
-        const SelectScope selected(screen, font);
-        DrawText(screen, text, -1, &bounds, kTextFormat | DT_CALCRECT);
-    }
-    ReleaseDC(nullptr, screen);
-    return {bounds.right + 2 * Scale(kPadding), bounds.bottom + 2 * ScaleY(kPadding)};
+    const FontMeasure measure(font);
+    return {measure.TextWidth(text) + 2 * Scale(kPadding),
+            measure.LineHeight() + 2 * ScaleY(kPadding)};
 }
 
 // Below the anchor or, where the screen ends, above it.

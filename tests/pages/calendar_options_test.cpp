@@ -10,6 +10,7 @@
 #include "tests/support/dialog_steps.h"
 
 namespace {
+constexpr int kDays = 1201;
 constexpr int kTaskList = 1230;
 constexpr int kDayList = 1231;
 constexpr int kMailList = 1233;
@@ -304,21 +305,24 @@ TEST_F(CalendarOptionsTest, OrdersTheTitles) {
 TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
     const int needed = ScaleY(200);
     settingsStore.dHeightLimit.Set(static_cast<uint32_t>(needed - 1));
-    OpenAt(5);
-    for (const bool byClosing : {false, true}) {
+    enum class Way { Row, Tab, Closing, RowAndClosing };
+    for (const Way way : {Way::Row, Way::Tab, Way::Closing, Way::RowAndClosing}) {
         settingsStore.PinnedMonthlyClr.Set(1);
+        OpenAt(5);
         Select(kMonthList, 9);
         EXPECT_EQ(TextOf(Control(kTip)), Formatted(IDS_CALENDAR_MONTH_PINNED_TIP, needed).CStr());
         EXPECT_EQ(Shown(), 1u);
         MessageBoxAnswer answer(IDOK);
-        if (byClosing)
-            Close();
-        else
-            Select(kMonthList, 0);
+        if (way == Way::Row || way == Way::RowAndClosing) Select(kMonthList, 0);
+        if (way == Way::Tab) ShowTab(6);
+        if (way == Way::Closing || way == Way::RowAndClosing) Close();
+        EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
+        PumpMessages();
         EXPECT_EQ(answer.count, 1);
         EXPECT_EQ(answer.text, Formatted(IDS_CALENDAR_MONTH_PINNED_REFUSAL, needed).CStr());
         EXPECT_EQ(answer.caption, LanguageText(IDS_CALENDAR_MONTH_PINNED_CAPTION).CStr());
-        EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
+        if (page_) Close();
+        EXPECT_EQ(answer.count, 1) << "told once";
     }
     settingsStore.dHeightLimit.Set(static_cast<uint32_t>(needed));
     OpenAt(5);
@@ -331,8 +335,12 @@ TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
 // Another program may close the main window while a page that is being closed has the box up.
 TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
     settingsStore.dHeightLimit.Set(0);
-    settingsStore.dNumOfDays.Set(12);
-    OpenAt(5);
+    OpenAt(8);
+    Choose(window_, kDays, 11);
+    Select(kMiscellaneousList, 6);
+    Select(kTitles, 0);
+    Tap(window_, kDown);
+    ShowTab(5);
     Select(kMonthList, 9);
     Change(1);
     static HWND mainWindow;
@@ -340,6 +348,8 @@ TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
     SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
         if (!FindWindow(L"#32770", nullptr)) return;
         EXPECT_FALSE(IsWindowEnabled(mainWindow));
+        EXPECT_EQ(settingsStore.dNumOfDays.value, 12u) << "stored before the user is told";
+        EXPECT_EQ(TitleOrder(), "102345");
         KillTimer(nullptr, timer);
         DestroyWindow(mainWindow);
     });
@@ -347,6 +357,46 @@ TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
     EXPECT_FALSE(IsWindow(owner_));
     EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
     EXPECT_EQ(settingsStore.dNumOfDays.value, 12u);
-    EXPECT_EQ(TitleOrder(), "012345");
+    EXPECT_EQ(TitleOrder(), "102345");
 }
+
+// The same while the page itself has it up: the page and its lists go as well.
+class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterface<bool> {
+  protected:
+    void CloseAll() {
+        Close();
+        DestroyWindow(owner_);
+    }
+
+    static inline RefusalTest* current_;
+    static inline int boxes_;
+
+  public:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        if (!FindWindow(L"#32770", nullptr)) return;
+        ++boxes_;
+        if (current_->page_) current_->CloseAll();
+    }
+};
+
+TEST_P(RefusalTest, SurvivesTheEndOfThePageBehindIt) {
+    settingsStore.dHeightLimit.Set(0);
+    OpenAt(5);
+    Select(kMonthList, 9);
+    Change(1);
+    current_ = this;
+    boxes_ = 0;
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, OnTimer);
+    if (GetParam())
+        ShowTab(6);
+    else
+        Select(kMonthList, 0);
+    PumpMessages();
+    KillTimer(nullptr, timer);
+    EXPECT_EQ(boxes_, 1);
+    EXPECT_FALSE(page_ || IsWindow(owner_));
+    EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(ByRowOrTab, RefusalTest, testing::Bool());
 } // namespace

@@ -23,9 +23,7 @@ class CalendarPageFixture : public PageFixture {
 
     void SetUp() override {
         PageFixture::SetUp();
-        const wchar_t* library = Scale(1) > 1 ? L"HighDpiRes.dll" : L"LowDpiRes.dll";
-        application.displayLibrary =
-            LoadLibrary((std::wstring(L"\\Program Files\\Teskel\\Orvane\\") + library).c_str());
+        LoadArt();
         LOGFONT font{};
         font.lfHeight = Scale(12);
         wcscpy(font.lfFaceName, L"Tahoma");
@@ -36,9 +34,7 @@ class CalendarPageFixture : public PageFixture {
     void TearDown() override {
         if (page_) Close();
         DeleteObject(application.normalFont);
-        FreeLibrary(application.displayLibrary);
         application.normalFont = nullptr;
-        application.displayLibrary = nullptr;
         DeleteFile(kUtility);
         PageFixture::TearDown();
     }

@@ -1,5 +1,6 @@
 #include "pages/calendar_page.h"
 
+#include <set>
 #include <vector>
 
 #include "tests/pages/calendar_page_fixture.h"
@@ -155,6 +156,18 @@ TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
     EXPECT_EQ(settingsStore.TaskLeftAlignIcon2.value, 256u);
 }
 
+// A number that is no icon's may hold the bit of one.
+TEST_F(CalendarPageTest, ANumberThatIsNoIconOffersNone) {
+    settingsStore.ApptLeftAlignIcon1.Set(1 + 2);
+    settingsStore.ApptLeftAlignIcon2.Set(1);
+    settingsStore.ClrApptRightIcons.Set(16);
+    OpenAt(4);
+    SendMessage(window_, kMessageToolbarMenuSelect, 4, 1);
+    SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONDOWN, 0, MAKELPARAM(2, 2));
+    SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
+    EXPECT_EQ(settingsStore.ClrApptRightIcons.value, 16u) << "1 is at the left";
+}
+
 TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {
     settingsStore.ApptDisplayFormat.Set(1);
     OpenAt(4);
@@ -174,6 +187,14 @@ TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {
     for (const POINT& beside : {POINT{Scale(6) - 1, top + 1}, POINT{Scale(26), top + 1},
                                 POINT{Scale(10), top}, POINT{Scale(10), top + ScaleY(12)}})
         EXPECT_EQ(tap(beside.x, beside.y), 11u);
+    HWND strip = Control(kDisplayFormat);
+    SetFocus(page_->tabStrip);
+    SendMessage(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessage(strip, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(settingsStore.ApptDisplayFormat.value, 11u) << "a tap on the text steps nothing";
+    EXPECT_EQ(GetFocus(), strip);
+    SendMessage(strip, WM_TIMER, 1, 0);
+    EXPECT_FALSE(KillTimer(strip, 1)) << "it has no name to show";
     const auto press = [this](WPARAM key) {
         SetFocus(Control(kDisplayFormat));
         const MSG message{Control(kDisplayFormat), WM_KEYDOWN, key, 0, 0, {}};
@@ -189,6 +210,35 @@ TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {
     EXPECT_EQ(tap(Scale(20), top + 1), 1u);
     ShowTab(0);
     EXPECT_EQ(tap(Scale(20), top + 1), 1u) << "on this section only";
+}
+
+TEST_F(CalendarPageTest, PaintsArrowsFormatAndSample) {
+    settingsStore.ApptDisplayFormat.Set(6);
+    OpenAt(4);
+    HWND strip = Control(kDisplayFormat);
+    RECT text{};
+    GetClientRect(strip, &text);
+    RECT box = text;
+    MapWindowPoints(strip, window_, reinterpret_cast<POINT*>(&box), 2);
+    const auto distinct = [](const std::vector<COLORREF>& pixels) {
+        return std::set<COLORREF>(pixels.begin(), pixels.end()).size();
+    };
+    const auto shown = [&](HWND window, const RECT& place) {
+        PumpMessages();
+        return PixelsOf(window, place);
+    };
+    const RECT arrows{Scale(6), box.top, Scale(26), box.top + ScaleY(12)};
+    const RECT sample{0, box.bottom + ScaleY(4), box.right, box.bottom + ScaleY(40)};
+    EXPECT_GT(distinct(shown(window_, arrows)), 1u);
+    const std::vector<COLORREF> sixth = shown(strip, text);
+    const std::vector<COLORREF> withColumn = shown(window_, sample);
+    EXPECT_GT(distinct(sixth), 1u);
+    SendMessage(window_, WM_LBUTTONDOWN, 0, MAKELPARAM(Scale(20), box.top + 1));
+    EXPECT_TRUE(shown(strip, text) != sixth);
+    const std::vector<COLORREF> withoutColumn = shown(window_, sample);
+    EXPECT_TRUE(withoutColumn != withColumn);
+    SendMessage(window_, kMessageToolbarMenuSelect, 4, 1);
+    EXPECT_TRUE(shown(window_, sample) != withoutColumn);
 }
 
 // On every section and screen, what is shown lies on the page, off the tab strip and off each

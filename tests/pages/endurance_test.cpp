@@ -12,6 +12,7 @@
 #include "shell/main_window.h"
 #include "tests/support/page_fixture.h"
 #include "tests/support/resource_count.h"
+#include "ui/list_items.h"
 
 namespace {
 
@@ -36,13 +37,25 @@ class EnduranceTest : public RegistryFixture, public testing::WithParamInterface
         RegistryFixture::TearDown();
     }
 
-    // As a visitor does: every tab, and back.
+    // Selects each row of each list that is shown, which may show more below or above it.
+    static void SelectEachRow(HWND page) {
+        for (HWND list = FindWindowEx(page, nullptr, WC_LISTVIEW, nullptr); list;
+             list = FindWindowEx(page, list, WC_LISTVIEW, nullptr)) {
+            for (int row = 0; IsWindowVisible(list) && row < RowCount(list); ++row) {
+                SelectRow(list, row);
+                PumpMessages();
+            }
+        }
+    }
+
+    // As a visitor does: every tab and every option, and back.
     void Visit() const {
         const std::unique_ptr<SettingsPage> page(CreatePage(window_, GetParam()));
         ASSERT_TRUE(page && page->hwnd);
         for (int tab = 0; tab < page->GetTabCount(); ++tab) {
             SendMessage(page->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
             PumpMessages();
+            SelectEachRow(page->hwnd);
         }
         ClosePage(*page);
         PumpMessages();

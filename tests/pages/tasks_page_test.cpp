@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"
@@ -24,16 +26,7 @@ class TasksPageTest : public PageFixture {
 
     void SetUp() override {
         PageFixture::SetUp();
-        const wchar_t* library = Scale(1) > 1 ? L"HighDpiRes.dll" : L"LowDpiRes.dll";
-        application.displayLibrary =
-            LoadLibrary((std::wstring(L"\\Program Files\\Teskel\\Orvane\\") + library).c_str());
-        ASSERT_TRUE(application.displayLibrary);
-    }
-
-    void TearDown() override {
-        FreeLibrary(application.displayLibrary);
-        application.displayLibrary = nullptr;
-        PageFixture::TearDown();
+        LoadArt();
     }
 
     HWND OpenIcons(uint32_t left1, uint32_t left2, uint32_t right) {
@@ -238,16 +231,49 @@ TEST_F(TasksPageTest, SurvivesBeingClosedBehindAMenu) {
     ExpectIcons(0, 0, 383);
 }
 
+// The screen's pointer follows in its own time.
+void MovePointer(int x, int y) {
+    constexpr int kMostTurns = 100;
+    SetCursorPos(x, y);
+    POINT now{-1, -1};
+    for (int turn = 0; turn < kMostTurns && (now.x != x || now.y != y); ++turn) {
+        Sleep(10);
+        PumpMessages();
+        GetCursorPos(&now);
+    }
+}
+
 TEST_F(TasksPageTest, AHeldButtonNamesItsIcon) {
     OpenIcons(0, 0, 0);
     HWND strip = GetDlgItem(page_->hwnd, kRight);
-    SendMessage(strip, WM_MOUSEMOVE, 0, MAKELPARAM(2, 2));
-    SendMessage(strip, WM_TIMER, 1, 0);
-    HWND tip = FindWindow(L"ToolTipWindow", nullptr);
+    POINT note{2, 2};
+    MapWindowPoints(strip, nullptr, &note, 1);
+    const auto rest = [strip] {
+        SendMessage(strip, WM_MOUSEMOVE, 0, MAKELPARAM(2, 2));
+        SendMessage(strip, WM_TIMER, 1, 0);
+        return FindWindow(L"ToolTipWindow", nullptr);
+    };
+    MovePointer(note.x, note.y);
+    HWND tip = rest();
     ASSERT_TRUE(tip);
     EXPECT_EQ(TextOf(tip), LanguageText(IDS_ICON_NOTE).CStr());
     SendMessage(strip, WM_TIMER, 1, 0);
     EXPECT_FALSE(IsWindow(tip));
+    MovePointer(note.x, note.y - ScaleY(40));
+    EXPECT_FALSE(rest()) << "the pen has gone elsewhere";
+    EXPECT_FALSE(KillTimer(strip, 1));
+    Close();
+}
+
+TEST_F(TasksPageTest, ATapThatLosesThePenPressesNothing) {
+    OpenIcons(0, 0, 0);
+    HWND strip = GetDlgItem(page_->hwnd, kRight);
+    SendMessage(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
+    ReleaseCapture(); // As a window does that comes up in front.
+    SendMessage(strip, WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
+    ExpectIcons(0, 0, 0);
+    TapRight(0);
+    ExpectIcons(0, 0, 1);
     Close();
 }
 
@@ -255,14 +281,9 @@ TEST_F(TasksPageTest, AHeldButtonNamesItsIcon) {
 int DrawnPixels(HWND window, int top, int bottom) {
     RECT client{};
     GetClientRect(window, &client);
-    HDC dc = GetDC(window);
-    int drawn = 0;
-    for (int y = top; y < bottom; ++y) {
-        for (int x = 0; x < client.right; ++x)
-            drawn += GetPixel(dc, x, y) != RGB(255, 255, 255);
-    }
-    ReleaseDC(window, dc);
-    return drawn;
+    const std::vector<COLORREF> pixels = PixelsOf(window, {0, top, client.right, bottom});
+    return static_cast<int>(pixels.size()) -
+           static_cast<int>(std::ranges::count(pixels, RGB(255, 255, 255)));
 }
 
 TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "files/icon_set.h"
 #include "preview/clock.h"
 #include "shell/services/application.h"
 #include "shell/services/scaling.h"
@@ -54,8 +55,10 @@ class ItemSampleTest : public StoreFixture {
         library_.Reset(LoadLibrary(L"\\Program Files\\Teskel\\Orvane\\LowDpiRes.dll"));
         application.displayLibrary = library_.Get();
         ASSERT_TRUE(library_);
+        iconSet.LoadIconSet(WideString());
     }
     void TearDown() override {
+        iconSet.Release();
         application.displayLibrary = nullptr;
         StoreFixture::TearDown();
     }
@@ -157,8 +160,8 @@ TEST_F(ItemSampleTest, AnyValueIsSafeAndNothingLeaks) {
     EXPECT_EQ(CountGdiObjects(), before);
 }
 
-TEST_F(ItemSampleTest, NeedsNeitherLibraryNorRoom) {
-    application.displayLibrary = nullptr;
+TEST_F(ItemSampleTest, NeedsNeitherIconsNorRoom) {
+    iconSet.Release();
     const Pixels bare = Task();
     EXPECT_TRUE(bare != Pixels(bare.size(), bare[0])) << "the text is there without the icons";
     for (const int width : {0, -1}) {

@@ -4,9 +4,12 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <span>
 
+#include "files/icon_set.h"
 #include "pages/settings_page.h"
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
@@ -40,9 +43,21 @@ class PageFixture : public RegistryFixture {
 
     void TearDown() override {
         DestroyWindow(owner_);
+        iconSet.Release();
+        if (application.displayLibrary) FreeLibrary(application.displayLibrary);
+        application.displayLibrary = nullptr;
         if (application.languageLibrary) FreeLibrary(application.languageLibrary);
         application.languageLibrary = nullptr;
         RegistryFixture::TearDown();
+    }
+
+    // The installed display library and the icons, as at start.
+    static void LoadArt() {
+        application.displayLibrary =
+            LoadLibrary(Scale(1) > 1 ? L"\\Program Files\\Teskel\\Orvane\\HighDpiRes.dll"
+                                     : L"\\Program Files\\Teskel\\Orvane\\LowDpiRes.dll");
+        ASSERT_TRUE(application.displayLibrary);
+        iconSet.LoadIconSet(WideString());
     }
 
     // Loads the store as at start, opens the page, and gives its window.

@@ -49,6 +49,17 @@ std::wstring EntriesOf(HWND combo) {
     return entries;
 }
 
+std::vector<COLORREF> PixelsOf(HWND window, const RECT& place) {
+    std::vector<COLORREF> pixels;
+    HDC dc = GetDC(window);
+    for (int y = place.top; y < place.bottom; ++y) {
+        for (int x = place.left; x < place.right; ++x)
+            pixels.push_back(GetPixel(dc, x, y));
+    }
+    ReleaseDC(window, dc);
+    return pixels;
+}
+
 LPARAM MiddleOf(HWND window) {
     RECT client{};
     GetClientRect(window, &client);

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 // Working real windows the way a user's taps and keys do.
 
@@ -17,6 +18,9 @@ void Choose(HWND parent, int id, int entry);
 
 // The texts of a combo box's entries, parted by "|".
 std::wstring EntriesOf(HWND combo);
+
+// What a part of a window shows; the place is in pixels of its client area.
+std::vector<COLORREF> PixelsOf(HWND window, const RECT& place);
 
 // A point in the middle of a window's client area, as a mouse message carries it.
 LPARAM MiddleOf(HWND window);
