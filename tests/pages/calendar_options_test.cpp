@@ -363,11 +363,6 @@ TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
 // The same while the page itself has it up: the page and its lists go as well.
 class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterface<bool> {
   protected:
-    void CloseAll() {
-        Close();
-        DestroyWindow(owner_);
-    }
-
     static inline RefusalTest* current_;
     static inline int boxes_;
 
@@ -375,7 +370,9 @@ class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterfa
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
         if (!FindWindow(L"#32770", nullptr)) return;
         ++boxes_;
-        if (current_->page_) current_->CloseAll();
+        if (!current_->page_) return;
+        current_->Close();
+        DestroyWindow(current_->owner_);
     }
 };
 
