@@ -13,7 +13,8 @@
 [[nodiscard]] UniqueBitmap LoadCategoryIcon(const WideString& category);
 
 // Makes a copy of the file `source` the icon of a category, in place of one that is there, and
-// gives it. An empty source, or one that cannot be copied, leaves the category without an icon; its
-// own file as the source changes nothing.
+// gives it; makes the icons folder where it is missing. An empty source, or one that cannot be
+// copied, leaves the category without an icon; its own file as the source, however spelled, changes
+// nothing. Gives the icon that the category has then.
 [[nodiscard]] UniqueBitmap ReplaceCategoryIcon(const WideString& category,
                                                const WideString& source);

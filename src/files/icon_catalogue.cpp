@@ -27,10 +27,13 @@ bool IsIconFile(const WIN32_FIND_DATA& found) {
            _wcsicmp(extension, kExtension) == 0;
 }
 
-WideString NameOf(const WIN32_FIND_DATA& found) {
+// What a path names, without folder and extension.
+WideString NameOf(const WideString& path) {
+    const wchar_t* backslash = wcsrchr(path.CStr(), L'\\');
+    const wchar_t* file = backslash ? backslash + 1 : path.CStr();
+    const wchar_t* extension = wcsrchr(file, L'.');
     WideString name;
-    name.Assign(found.cFileName, static_cast<size_t>(wcsrchr(found.cFileName, L'.') -
-                                                     static_cast<const wchar_t*>(found.cFileName)));
+    name.Assign(file, extension ? static_cast<size_t>(extension - file) : wcslen(file));
     return name;
 }
 
@@ -72,7 +75,7 @@ void IconCatalogue::AddIconFolder(const WideString& folder) {
     WIN32_FIND_DATA found;
     const UniqueFind find(FindFirstFile(pattern.CStr(), &found));
     for (bool more = static_cast<bool>(find); more; more = FindNextFile(find.Get(), &found)) {
-        if (IsIconFile(found)) icons_.push_back({NameOf(found), folders_.size()});
+        if (IsIconFile(found)) icons_.push_back({NameOf(found.cFileName), folders_.size()});
     }
     folders_.push_back(std::move(base));
     // Sorted as a whole, not insertion by insertion: thousands of icons must not take minutes.
@@ -92,8 +95,12 @@ WideString IconCatalogue::Path(size_t index) const {
 }
 
 std::optional<size_t> IconCatalogue::Find(const WideString& path) const {
+    const WideString name = NameOf(path);
     for (size_t index = 0; index < icons_.size(); ++index) {
-        if (_wcsicmp(Path(index).CStr(), path.CStr()) == 0) return index;
+        // Paths are put together for the few icons of the name alone.
+        if (_wcsicmp(icons_[index].name.CStr(), name.CStr()) == 0 &&
+            _wcsicmp(Path(index).CStr(), path.CStr()) == 0)
+            return index;
     }
     return std::nullopt;
 }

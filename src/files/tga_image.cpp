@@ -9,6 +9,7 @@ constexpr uint8_t kTrueColourRuns = 10;
 constexpr uint8_t kAlphaBits = 0x0F;
 constexpr uint8_t kFromRight = 0x10;
 constexpr uint8_t kFromTop = 0x20;
+constexpr uint8_t kInterleaving = 0xC0;
 // Of a packet's first byte.
 constexpr uint8_t kIsRun = 0x80;
 constexpr size_t kLongestPacket = 128; // Pixels.
@@ -32,6 +33,8 @@ std::optional<TgaHeader> ReadHeader(std::span<const uint8_t> file) {
     const uint8_t bits = file[16];
     if ((kind != kTrueColour && kind != kTrueColourRuns) || (bits != 24 && bits != 32))
         return std::nullopt;
+    // Lines that are not one after the other, as long-forgotten programs wrote them.
+    if (file[17] & kInterleaving) return std::nullopt;
     // True colours need no palette, but one may stand before them all the same.
     const bool hasPalette = file[1] == 1;
     const size_t paletteSize = hasPalette ? WordAt(file, 5) * ((file[7] + 7U) / 8) : 0;

@@ -23,10 +23,6 @@ inline constexpr UINT kFolderEdit = 1214;
 inline constexpr UINT kFolderClear = 1215;
 inline constexpr UINT kFolderBrowse = 1216;
 
-inline HWND Item(HWND page, UINT id) {
-    return GetDlgItem(page, static_cast<int>(id));
-}
-
 } // namespace category_controls
 
 // Makes the controls, at no place yet, the lists without rows.

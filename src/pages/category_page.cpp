@@ -10,6 +10,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/colour_picker.h"
+#include "ui/controls.h"
 #include "ui/filter_name_dialog.h"
 #include "ui/folder_dialog.h"
 #include "ui/image_picker.h"
@@ -44,12 +45,11 @@ constexpr int kIconSize = 20;
 constexpr int kNameGap = 5;
 constexpr int kSampleWidth = 44;
 
+// To a list that is hidden, so that nothing is drawn row by row. Redrawing is not turned off: on
+// the device turning it on again may show a hidden list.
 void AddCategories(HWND list) {
-    // Drawn once, not for each row.
-    SendMessage(list, WM_SETREDRAW, FALSE, 0);
     for (const auto& category : categoryStore.All())
         AddRow(list, category->name.CStr());
-    SendMessage(list, WM_SETREDRAW, TRUE, 0);
 }
 
 void TickAll(HWND list, bool isTicked) {
@@ -60,7 +60,7 @@ void TickAll(HWND list, bool isTicked) {
 void FillFilters(HWND combo, int selected) {
     SendMessage(combo, CB_RESETCONTENT, 0, 0);
     for (const FilterEntry& filter : categoryStore.AllFilters())
-        SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(filter.title.CStr()));
+        AddEntry(combo, filter.title.CStr());
     SelectIndex(combo, static_cast<uint32_t>(std::max(0, selected)));
 }
 
@@ -118,10 +118,12 @@ void ChooseIcon(HWND window) {
         return;
     }
     const bool exists = GetFileAttributes(file.CStr()) != INVALID_FILE_ATTRIBUTES;
-    WideString chosen = exists ? file : WideString();
+    const WideString current = exists ? file : WideString();
+    WideString chosen = current;
     const bool isConfirmed = PickImage(window, chosen);
     if (!IsWindow(window)) return;
-    if (isConfirmed) category->icon = ReplaceCategoryIcon(category->name, chosen);
+    if (isConfirmed && chosen != current)
+        category->icon = ReplaceCategoryIcon(category->name, chosen);
     ShowCategoryAgain(window);
 }
 
@@ -146,10 +148,8 @@ void CategoryPage::CreateControls(HWND window) {
 void CategoryPage::FillLists(HWND window) {
     AddCategories(Item(window, kCategories));
     AddCategories(Item(window, kMembers));
-    for (const UINT text : kSensitivities) {
-        SendMessage(Item(window, kSensitivity), CB_ADDSTRING, 0,
-                    reinterpret_cast<LPARAM>(LanguageText(text).CStr()));
-    }
+    for (const UINT text : kSensitivities)
+        AddEntry(Item(window, kSensitivity), LanguageText(text).CStr());
     FillFilters(Item(window, kFilter), 0);
 }
 
@@ -242,7 +242,9 @@ void CategoryPage::OnButton(HWND window, UINT id) {
 
 // The icons of the folder are to be had at once, not only when the page is left.
 void CategoryPage::OnPathChanged(HWND window) const {
-    settingsStore.AdditionalIconsFolder.Set(ControlText(Item(window, kFolderEdit)).CStr());
+    const WideString path = ControlText(Item(window, kFolderEdit));
+    StringSetting& setting = settingsStore.AdditionalIconsFolder;
+    if (path != setting.value) setting.Set(path.CStr());
 }
 
 bool CategoryPage::BrowsePath(HWND window, const FormRow&, WideString& path) {

@@ -53,10 +53,6 @@ constexpr ColourItem kItems[] = {
      IDS_COLOUR_STATUS_OUT_OF_OFFICE_ABOUT},
 };
 
-HWND Item(HWND page, UINT id) {
-    return GetDlgItem(page, static_cast<int>(id));
-}
-
 // Null when none is selected.
 const ColourItem* SelectedColour(HWND page) {
     const int row = SelectedRow(Item(page, kColours));

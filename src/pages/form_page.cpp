@@ -12,7 +12,7 @@ constexpr UINT kPathClear = 2;
 constexpr UINT kPathBrowse = 3;
 
 bool HasRow(HWND window, const FormRow& row) {
-    return GetDlgItem(window, static_cast<int>(row.id)) != nullptr;
+    return Item(window, row.id) != nullptr;
 }
 
 void FillChoices(HWND combo, std::span<const UINT> choices) {
@@ -39,9 +39,14 @@ void SaveBox(HWND window, const FormRow& row) {
 void SaveNumber(HWND window, const FormRow& row) {
     const int index = SelectedIndex(window, row.id);
     if (row.keepsOthers && index < 0) return;
-    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
+    HWND combo = Item(window, row.id);
     (settingsStore.*row.setting)
         .Set(row.kind == RowKind::Number ? SelectedData(combo) : static_cast<uint32_t>(index));
+}
+
+// A stored text that is longer than the page takes stays until the user changes it.
+void SaveText(StringSetting& setting, HWND edit, int limit) {
+    if (ControlText(edit) != setting.value) setting.Set(ControlText(edit, limit).CStr());
 }
 } // namespace
 
@@ -110,7 +115,7 @@ void FormPage::PlaceRow(HWND window, const FormRow& row, RowLayout& layout) {
 }
 
 void FormPage::LoadRow(HWND window, const FormRow& row) {
-    HWND control = GetDlgItem(window, static_cast<int>(row.id));
+    HWND control = Item(window, row.id);
     switch (row.kind) {
     case RowKind::Check:
     case RowKind::Switch:
@@ -168,16 +173,12 @@ void FormPage::SaveRow(HWND window, const FormRow& row) {
     case RowKind::Number:
         SaveNumber(window, row);
         break;
-    case RowKind::Path: {
-        HWND edit = GetDlgItem(window, static_cast<int>(row.id + kPathEdit));
-        (settingsStore.*row.path).Set(ControlText(edit, kPathLimit).CStr());
+    case RowKind::Path:
+        SaveText(settingsStore.*row.path, Item(window, row.id + kPathEdit), kPathLimit);
         break;
-    }
-    case RowKind::Text: {
-        HWND edit = GetDlgItem(window, static_cast<int>(row.id));
-        (settingsStore.*row.path).Set(ControlText(edit, kTextLimit).CStr());
+    case RowKind::Text:
+        SaveText(settingsStore.*row.path, Item(window, row.id), kTextLimit);
         break;
-    }
     case RowKind::CustomChoice:
     case RowKind::Custom:
         SaveCustomRow(window, row);

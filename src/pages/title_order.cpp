@@ -32,10 +32,6 @@ constexpr UINT kNames[kTitles] = {
     IDS_CALENDAR_TITLE_OVERDUE,        IDS_CALENDAR_TITLE_UNDATED, IDS_CALENDAR_TITLE_MAIL,
     IDS_CALENDAR_TITLE_SPECIAL_EVENTS, IDS_CALENDAR_TITLE_WEATHER, IDS_CALENDAR_TITLE_DAYS,
 };
-
-HWND ListOf(HWND page, UINT firstId) {
-    return GetDlgItem(page, static_cast<int>(firstId));
-}
 } // namespace
 
 void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
@@ -59,12 +55,12 @@ void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
 
 bool OnTitleOrderButton(HWND page, UINT firstId, UINT id) {
     if (id != firstId + 1 && id != firstId + 2) return false;
-    MoveSelectedRow(page, ListOf(page, firstId), id == firstId + 1);
+    MoveSelectedRow(page, Item(page, firstId), id == firstId + 1);
     return true;
 }
 
 void SaveTitleOrder(HWND page, UINT firstId) {
-    HWND list = ListOf(page, firstId);
+    HWND list = Item(page, firstId);
     for (uint32_t row = 0; list && row < kTitles; ++row)
         (settingsStore.*kPlaces[row])
             .Set(static_cast<uint32_t>(RowData(list, static_cast<int>(row))));

@@ -85,10 +85,6 @@ class ColourPicker final : public ModalWindow {
     bool isShowing_ = false; // The picker itself writes into its edit fields.
 };
 
-HWND Item(HWND window, UINT id) {
-    return GetDlgItem(window, static_cast<int>(id));
-}
-
 bool IsWide(HWND window) {
     return ClientSize(window).cx >= Scale(kWideWindow);
 }

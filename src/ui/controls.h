@@ -29,6 +29,11 @@ HWND CreateHiddenControl(HWND parent, const wchar_t* className, const wchar_t* t
 // Moves a control; null is passed over.
 void PlaceControl(HWND control, const ControlPlace& place);
 
+// A window's control; null when it has none of the id.
+[[nodiscard]] inline HWND Item(HWND parent, UINT id) {
+    return GetDlgItem(parent, static_cast<int>(id));
+}
+
 // A control's whole text.
 [[nodiscard]] WideString ControlText(HWND control);
 

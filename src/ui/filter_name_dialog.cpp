@@ -59,7 +59,6 @@ void Finish(HWND dialog, UINT id) {
         auto* title = reinterpret_cast<WideString*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
         *title = ControlText(GetDlgItem(dialog, kName), kNameLimit);
     }
-    SipShowIM(SIPF_OFF);
     EndDialog(dialog, id == IDOK ? 1 : 0);
 }
 
@@ -74,6 +73,9 @@ INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
         return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
     case WM_COMMAND:
         if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) Finish(dialog, LOWORD(wParam));
+        return TRUE;
+    case WM_DESTROY: // Also where it goes with its owner.
+        SipShowIM(SIPF_OFF);
         return TRUE;
     default:
         return FALSE;

@@ -33,7 +33,10 @@ int Thumbnails::ImageOf(int row, const wchar_t* path) {
     int& shown = rows_[static_cast<size_t>(image)];
     if (shown == row) return image;
     const UniqueBitmap picture = LoadImageFile(path);
-    ImageList_Replace(images_.Get(), image, MakeThumbnail(picture.Get()).Get(), nullptr);
-    shown = row;
-    return image;
+    const UniqueBitmap thumbnail = MakeThumbnail(picture.Get());
+    const bool isMade =
+        thumbnail && ImageList_Replace(images_.Get(), image, thumbnail.Get(), nullptr);
+    // Never another row's picture; one that failed is tried again when it is next seen.
+    shown = isMade ? row : -1;
+    return isMade ? image : I_IMAGENONE;
 }

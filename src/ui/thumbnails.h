@@ -14,8 +14,8 @@ class Thumbnails {
 
     // What the list draws from; it stays this object's.
     [[nodiscard]] HIMAGELIST Images() const { return images_.Get(); }
-    // The number of the image that shows the picture of a row; blank when there is none. A row's
-    // path must always be the same.
+    // The number of the image that shows the picture of a row, blank when there is none;
+    // I_IMAGENONE where no image can be made. A row's path must always be the same.
     [[nodiscard]] int ImageOf(int row, const wchar_t* path);
 
   private:

@@ -117,6 +117,33 @@ TEST_F(CategoryStoreTest, ReplacesIcons) {
     EXPECT_EQ(folder_->Read(L"Icons\\star.bmp"), fresh);
 }
 
+TEST_F(CategoryStoreTest, KeepsAnIconThatIsItsOwnSource) {
+    const std::string old = BmpFile(1, 1, 1);
+    const std::string fresh = BmpFile(2, 2, 2);
+    const std::wstring home = L"New\\Home.bmp";
+    folder_->Write(L"Icons\\star.bmp", fresh);
+    Load();
+    settingsStore.OVIconsFolder.Set(folder_->PathOf(L"New\\").c_str());
+    EXPECT_STREQ(CategoryIconPath(L"Home").CStr(), folder_->PathOf(home).c_str());
+    EXPECT_TRUE(ReplaceCategoryIcon(L"Home", folder_->PathOf(L"Icons\\star.bmp").c_str()));
+    EXPECT_EQ(folder_->Read(home), fresh) << "in a folder that was not there";
+
+    const std::wstring spellings[] = {home, L"New\\\\home.bmp", L"Icons\\..\\NEW\\Home.bmp"};
+    for (const bool isCopied : {true, false}) {
+        // Nothing can be copied to where a folder is.
+        if (!isCopied) folder_->Write(home + L".new\\file", "");
+        folder_->Write(home, old);
+        for (const std::wstring& spelling : spellings) {
+            EXPECT_TRUE(ReplaceCategoryIcon(L"Home", folder_->PathOf(spelling).c_str()));
+            EXPECT_EQ(folder_->Read(home), old) << isCopied;
+        }
+    }
+    EXPECT_FALSE(ReplaceCategoryIcon(L"Home", folder_->PathOf(L"Icons\\star.bmp").c_str()));
+    EXPECT_FALSE(folder_->Has(home));
+    EXPECT_FALSE(folder_->Has(home + L".old"));
+    EXPECT_EQ(folder_->Read(L"Icons\\star.bmp"), fresh);
+}
+
 TEST_F(CategoryStoreTest, FindsSelections) {
     folder_->SetCategories("1\t0\tHome\n");
     SetText(HKEY_CURRENT_USER, kCalendar, L"CalendarSelCategory", L"Home");

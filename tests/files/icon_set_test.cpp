@@ -4,6 +4,9 @@
 #include <imaging.h>
 #include <objbase.h>
 
+#include <string>
+#include <vector>
+
 #include "files/image_loader.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
@@ -100,6 +103,60 @@ TEST_F(IconSetTest, LooksForFilesInItsOrder) {
     Write(L"task_checked.png", "no picture");
     Load();
     EXPECT_EQ(WidthOf(IconSymbol::TaskChecked), 5);
+}
+
+TEST_F(IconSetTest, GivesEachSymbolItsOwnFileAndBitmap) {
+    struct Symbol {
+        const wchar_t* stem;
+        WORD number;
+    };
+    constexpr Symbol kSymbols[IconSet::kSymbolCount] = {
+        {L"note", 290},
+        {L"regenerated", 291},
+        {L"reminder", 287},
+        {L"high_importance", 292},
+        {L"low_importance", 293},
+        {L"recurring", 289},
+        {L"private", 286},
+        {L"link", 294},
+        {L"attendees", 288},
+        {L"active_task", 296},
+        {L"allday_appt", 295},
+        {L"appt_counter", 297},
+        {L"task_counter", 298},
+        {L"mail_counter", 299},
+        {L"notes_counter", 319},
+        {L"contacts_counter", 339},
+        {L"task_checked", 190},
+        {L"task_not_checked", 189},
+        {L"anniversary", 282},
+        {L"birthday", 283},
+        {L"tabs_left", 269},
+        {L"tabs_right", 270},
+        {L"category_symbol", 321},
+        {L"attached_icon_symbol", 323},
+    };
+    const auto pixels = [](HBITMAP bitmap) {
+        std::vector<COLORREF> all;
+        for (int place = 0; place < 12 * 12; ++place)
+            all.push_back(PixelOf(bitmap, place % 12, place / 12));
+        return all;
+    };
+    icons_.LoadIconSet(WideString());
+    for (size_t index = 0; index < IconSet::kSymbolCount; ++index) {
+        const UniqueBitmap builtIn(
+            LoadBitmap(library_.Get(), MAKEINTRESOURCE(kSymbols[index].number)));
+        EXPECT_EQ(pixels(icons_[static_cast<IconSymbol>(index)].bitmap.Get()),
+                  pixels(builtIn.Get()))
+            << kSymbols[index].number;
+        Write((std::wstring(kSymbols[index].stem) + L".tga").c_str(),
+              TgaFile(static_cast<uint16_t>(index + 13), 1, kBlue));
+    }
+    Load();
+    for (size_t index = 0; index < IconSet::kSymbolCount; ++index) {
+        EXPECT_EQ(WidthOf(static_cast<IconSymbol>(index)), static_cast<int>(index + 13))
+            << kSymbols[index].number;
+    }
 }
 
 TEST_F(IconSetTest, DrawsNothingWhereAPictureIsClear) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "files/icon_catalogue.h"
+#include "shell/services/resource_strings.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/image_files.h"
 #include "tests/support/install_folder.h"
@@ -91,6 +92,8 @@ TEST_F(CategoryPageTest, KeepsTheTicksOfEachFilter) {
     HWND page = OpenPage();
     EXPECT_EQ(RowsOf(GetDlgItem(page, kMembers)), L"..\\Icons\\star|Home|Work");
     EXPECT_EQ(Ticks(page), "---");
+    EXPECT_EQ(TextOf(GetDlgItem(page, kVisible)), LanguageText(925).CStr());
+    EXPECT_EQ(TextOf(GetDlgItem(page, kUncategorized)), LanguageText(924).CStr());
     TickMember(page, 1, true);
     SendDlgItemMessage(page, kVisible, BM_CLICK, 0, 0);
     Choose(page, kFilter, 1);
@@ -269,6 +272,18 @@ TEST_F(CategoryPageTest, KeepsTheFolderOfAdditionalIcons) {
     SetDlgItemText(page, kFolderEdit, L"\\Typed");
     Close();
     EXPECT_STREQ(settingsStore.AdditionalIconsFolder.value.CStr(), L"\\Typed");
+}
+
+TEST_F(CategoryPageTest, LeavesAFolderAloneThatIsLongerThanItTakes) {
+    const std::wstring stored = L"\\" + std::wstring(399, L'f');
+    SetText(HKEY_CURRENT_USER, L"Software\\Teskel\\Orvane\\Categories", L"AdditionalIconsFolder",
+            stored);
+    HWND page = OpenPage();
+    TapAndWork(page, kFolderBrowse, L"SelectFolderWin",
+               {[](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDCANCEL, 0); }});
+    Close();
+    EXPECT_EQ(settingsStore.AdditionalIconsFolder.value.CStr(), stored);
+    EXPECT_FALSE(settingsStore.AdditionalIconsFolder.changed);
 }
 
 // Another program may close the main window while a dialog, and the page below, are open.

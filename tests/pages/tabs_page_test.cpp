@@ -184,6 +184,19 @@ TEST_F(TabsPageTest, TakesAPluginOffTheTodayScreenWhenAllowed) {
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, key, L"Order"), 7u);
 }
 
+TEST_F(TabsPageTest, AddsAPluginWithoutAFile) {
+    SetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Bare"), L"Type", 4);
+    SetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Bare"), L"Enabled", 0);
+    Open();
+    Add({kOk});
+    EXPECT_EQ(Rows(), kOwnTabs + std::wstring(L"|Bare"));
+    const TabDefinition* tab = settingsStore.tabs.FindType(TabType::Hosted);
+    ASSERT_TRUE(tab);
+    EXPECT_STREQ(tab->name.CStr(), L"Bare");
+    EXPECT_STREQ(tab->installPath.CStr(), L"");
+    Close();
+}
+
 TEST_F(TabsPageTest, RefusesASecondTabOfAPluginAndRemovesHostedTabsAlone) {
     RegisterItem(L"Mail", 4, 0); // Named as a tab of the dashboard's own.
     SetNumber(HKEY_CURRENT_USER, std::wstring(kTabSettings) + L"\\mail", L"Order", 3);

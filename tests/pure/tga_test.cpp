@@ -85,7 +85,8 @@ TEST(Tga, SkipsTextAndPalette) {
 
 TEST(Tga, RefusesWhatItCannotRead) {
     for (const Header& header : {Header{.kind = 1}, Header{.kind = 3}, Header{.kind = 9},
-                                 Header{.bits = 16}, Header{.width = 0}, Header{.height = 0}}) {
+                                 Header{.bits = 16}, Header{.width = 0}, Header{.height = 0},
+                                 Header{.descriptor = 0x40}, Header{.descriptor = 0x80}}) {
         EXPECT_EQ(Read(File(header, kFourPixels)), "refused") << int{header.kind};
     }
     const Bytes whole = File({.textSize = 1}, {'t', 0, 0, 1, 0, 0, 2, 0, 0, 3, 0, 0, 4});
