@@ -37,9 +37,15 @@ WideString StringOf(std::wstring_view text) {
     return string;
 }
 
+// Whether the rest of the line comes as a line of its own. A pair may have left the last place
+// free.
+bool IsCut(std::wstring_view line) {
+    return line.size() + 1 >= LineReader::kMaxLine && line.back() != L'\n';
+}
+
 bool ReadName(LineReader& lines, WideString& name) {
     auto line = lines.Next();
-    if (!line) return false;
+    if (!line || IsCut(*line)) return false;
     if (line->front() == kByteOrderMark) line->remove_prefix(1);
     const std::wstring_view text = Trimmed(*line);
     name = StringOf(text);
@@ -54,7 +60,7 @@ std::optional<Alphabet> ReadAlphabet(ByteSource& file) {
     size_t characters = 0;
     while (const auto line = lines.Next()) {
         characters += line->size();
-        if (characters > kMaxCharacters) return std::nullopt;
+        if (characters > kMaxCharacters || IsCut(*line)) return std::nullopt;
         const std::wstring_view group = Trimmed(*line);
         if (group.empty()) continue;
         if (!IsText(group, kMaxAlphabetGroup) || alphabet.groups.size() == kMaxAlphabetGroups)

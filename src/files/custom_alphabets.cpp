@@ -13,12 +13,13 @@
 namespace {
 constexpr wchar_t kExtension[] = L".txt";
 
-// Where the extension begins; null for what is no alphabet file. The pattern also finds longer
-// extensions on some platforms.
+// Where the extension begins; null for what is no alphabet file, or one without a name. The pattern
+// also finds longer extensions on some platforms.
 const wchar_t* ExtensionOf(const WIN32_FIND_DATA& found) {
     const wchar_t* extension = wcsrchr(found.cFileName, L'.');
     const bool isAlphabet = !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) &&
-                            extension != nullptr && lstrcmpi(extension, kExtension) == 0;
+                            extension != nullptr && extension != found.cFileName &&
+                            lstrcmpi(extension, kExtension) == 0;
     return isAlphabet ? extension : nullptr;
 }
 

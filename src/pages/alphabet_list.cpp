@@ -72,16 +72,18 @@ void AlphabetList::AddLanguages() {
 void AlphabetList::AddCustoms() {
     const std::vector<WideString>& stored = settingsStore.customAlphabets.Texts();
     TextSet active(stored.begin(), stored.end());
+    const bool isKnown = settingsStore.customAlphabets.IsKnown();
     for (const CustomAlphabet& custom : ReadCustomAlphabets()) {
         Row row;
         row.fileName = custom.fileName;
         row.wasActive = active.erase(custom.fileName) > 0;
-        row.isUsable = custom.alphabet || row.wasActive;
+        row.isUsable = isKnown && (custom.alphabet || row.wasActive);
         AddRow(row, custom.alphabet
                         ? Described(*custom.alphabet)
                         : Remarked(custom.fileName, LanguageText(IDS_ALPHABET_UNREADABLE)));
     }
     for (const WideString& missing : active) {
+        if (missing.IsEmpty()) continue; // No file has such a name.
         Row row;
         row.fileName = missing;
         row.wasActive = true;

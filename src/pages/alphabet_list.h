@@ -10,7 +10,7 @@
 
 // The alphabets of the contacts' search bar, each with a tick for "active": the built-in ones, the
 // custom ones, and those that are active although their file is gone. A file that cannot be read is
-// listed as such, and cannot be made active.
+// listed as such, and cannot be made active; none can while it is unknown which ones are.
 class AlphabetList {
   public:
     void Create(HWND page, UINT id, HFONT font);

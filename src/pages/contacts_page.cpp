@@ -1,7 +1,7 @@
 #include "pages/contacts_page.h"
 
+#include "pages/shared_choices.h"
 #include "resource_ids.h"
-#include "shell/services/number_text.h"
 #include "shell/services/resource_strings.h"
 
 namespace {
@@ -37,13 +37,11 @@ constexpr FormTab kTabs[] = {
 
 constexpr UINT kLayoutChoices[] = {IDS_CONTACTS_LAYOUT_ONE_LINE, IDS_CONTACTS_LAYOUT_TWO_LINES,
                                    IDS_CONTACTS_LAYOUT_PICTURES};
-constexpr UINT kNameChoices[] = {IDS_NAME_AS_FILED, IDS_NAME_FIRST_LAST, IDS_NAME_LAST_FIRST};
-constexpr UINT kBreakLineChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE_PLAIN,
-                                      IDS_BREAK_LINE_DOTTED, IDS_BREAK_LINE_SHADED};
-constexpr UINT kDPadActionChoices[] = {IDS_DPAD_OPEN, IDS_DPAD_MENU};
 
 void AddNumber(HWND combo, uint32_t number) {
-    AddEntry(combo, DecimalText(static_cast<int32_t>(number)).CStr(), number);
+    WideString text;
+    text.Format(L"%u", number);
+    AddEntry(combo, text.CStr(), number);
 }
 
 // In units. A width that is not among those offered has an entry of its own at the end.

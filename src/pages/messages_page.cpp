@@ -1,5 +1,6 @@
 #include "pages/messages_page.h"
 
+#include "pages/shared_choices.h"
 #include "resource_ids.h"
 
 namespace {
@@ -18,10 +19,6 @@ constexpr FormTab kTabs[] = {
     {IDS_TAB_GENERAL, kDPadActionLabel, kMarkRead},
     {IDS_TAB_TITLES, kBreakLineLabel, kFolding},
 };
-
-constexpr UINT kDPadActionChoices[] = {IDS_DPAD_OPEN, IDS_DPAD_MENU};
-constexpr UINT kBreakLineChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE_PLAIN,
-                                      IDS_BREAK_LINE_DOTTED, IDS_BREAK_LINE_SHADED};
 
 constexpr FormRow kRows[] = {
     {.tab = 0,

@@ -1,5 +1,6 @@
 #include "pages/notes_page.h"
 
+#include "pages/shared_choices.h"
 #include "resource_ids.h"
 #include "settings/text_list.h"
 #include "shell/services/platform_version.h"
@@ -46,8 +47,6 @@ constexpr FormTab kTabs[] = {
 
 constexpr UINT kPreviewChoices[] = {IDS_NOTES_PREVIEW_HIDE, IDS_NOTES_PREVIEW_SHOW,
                                     IDS_NOTES_PREVIEW_AS_LEFT};
-constexpr UINT kBreakLineChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE_PLAIN,
-                                      IDS_BREAK_LINE_DOTTED, IDS_BREAK_LINE_SHADED};
 
 constexpr FormRow kRows[] = {
     {.tab = 0,
@@ -172,7 +171,10 @@ void NotesPage::LoadCustomRow(HWND window, const FormRow& row) {
     } else if (row.id == kFolders) {
         const auto paths = ReadTextList(SettingGroup::Notes, kFoldersKey);
         foldersAreKnown_ = paths.has_value();
-        if (paths) folders_.Fill(*paths);
+        if (paths)
+            folders_.Fill(*paths);
+        else // What is not saved cannot be changed either.
+            EnableControlRange(window, kFoldersLabel, kAdd, false);
     }
 }
 

@@ -163,6 +163,14 @@ void ShowConfirmed(HWND window) {
 
 PimPage::PimPage() : FormPage(kTables) {}
 
+// A list that is open closes with its tab, and tells that nothing was chosen: so it is known of the
+// PC, while a device's list may say nothing, and would have its highlighted entry saved.
+void PimPage::SaveValues(HWND window, WPARAM wParam) {
+    ShowTab(window, SW_HIDE);
+    ShowConfirmed(window);
+    FormPage::SaveValues(window, wParam);
+}
+
 LRESULT PimPage::OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (LOWORD(wParam) == kApplication && HIWORD(wParam) == CBN_SELENDCANCEL) ShowConfirmed(window);
     if (LOWORD(wParam) != kApplication || HIWORD(wParam) != CBN_SELENDOK)

@@ -8,6 +8,7 @@ class PimPage final : public FormPage {
   public:
     PimPage();
 
+    void SaveValues(HWND window, WPARAM wParam) override;
     LRESULT OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:

@@ -16,3 +16,8 @@ inline constexpr UINT kBreakLineChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE
                                              IDS_BREAK_LINE_DOTTED, IDS_BREAK_LINE_SHADED};
 // How groups stand when the dashboard comes up.
 inline constexpr UINT kFoldingChoices[] = {IDS_FOLDING_ALL, IDS_FOLDING_NONE, IDS_FOLDING_AS_LEFT};
+// How a contact's name is written.
+inline constexpr UINT kNameChoices[] = {IDS_NAME_AS_FILED, IDS_NAME_FIRST_LAST,
+                                        IDS_NAME_LAST_FIRST};
+// What the action button does with an item.
+inline constexpr UINT kDPadActionChoices[] = {IDS_DPAD_OPEN, IDS_DPAD_MENU};

@@ -1,6 +1,7 @@
 #include "pages/special_events_page.h"
 
 #include "files/category_store.h"
+#include "pages/shared_choices.h"
 #include "resource_ids.h"
 #include "shell/services/number_text.h"
 #include "shell/services/resource_strings.h"
@@ -41,9 +42,6 @@ constexpr FormTab kTabs[] = {
 constexpr UINT kShowChoices[] = {IDS_SEVENTS_SHOW_BIRTHDAYS, IDS_SEVENTS_SHOW_ANNIVERSARIES,
                                  IDS_SEVENTS_SHOW_BOTH};
 constexpr UINT kDateChoices[] = {IDS_SEVENTS_DATE_DEVICE};
-constexpr UINT kNameChoices[] = {IDS_NAME_AS_FILED, IDS_NAME_FIRST_LAST, IDS_NAME_LAST_FIRST};
-constexpr UINT kBreakLineChoices[] = {IDS_BREAK_LINE_NONE, IDS_BREAK_LINE_PLAIN,
-                                      IDS_BREAK_LINE_DOTTED, IDS_BREAK_LINE_SHADED};
 
 // The setting counts from 0.
 void FillAlertDays(HWND combo) {
@@ -168,8 +166,8 @@ void SpecialEventsPage::LoadCustomRow(HWND window, const FormRow& row) {
     for (const auto& category : categoryStore.All())
         AddEntry(combo, category->name.CStr());
     const wchar_t* name = (settingsStore.*row.path).value.CStr();
-    const LRESULT entry = SendMessage(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                      reinterpret_cast<LPARAM>(name));
+    // Begins behind the first entry: a category may be called what that one says.
+    const LRESULT entry = SendMessage(combo, CB_FINDSTRINGEXACT, 0, reinterpret_cast<LPARAM>(name));
     SelectIndex(combo, entry < 0 ? 0 : static_cast<uint32_t>(entry));
 }
 

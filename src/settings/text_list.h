@@ -27,6 +27,8 @@ class TextListSetting {
   public:
     void Load(SettingGroup group, const wchar_t* subkey);
     [[nodiscard]] const std::vector<WideString>& Texts() const { return texts_; }
+    // Whether it could be read: otherwise what is set is not saved.
+    [[nodiscard]] bool IsKnown() const { return isKnown_; }
     void Set(std::vector<WideString> texts);
     // Writes the list when it was set since the load.
     void Save() const;

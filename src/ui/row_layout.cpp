@@ -1,5 +1,7 @@
 #include "ui/row_layout.h"
 
+#include <algorithm>
+
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
@@ -93,7 +95,8 @@ void RowLayout::AddLabel(UINT id, const wchar_t* text) {
 }
 
 ControlPlace RowLayout::RoomAbove(int bottom) const {
-    return {Scale(kMargin), y_, width_ - Scale(2 * kMargin), height_ - ScaleY(bottom) - y_};
+    return {Scale(kMargin), y_, std::max(0, width_ - Scale(2 * kMargin)),
+            std::max(0, height_ - ScaleY(bottom) - y_)};
 }
 
 void RowLayout::AddText(int column, UINT labelId, const wchar_t* label, UINT editId, int limit) {

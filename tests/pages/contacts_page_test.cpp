@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/include/stand_in.h"
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"
 #include "tests/support/dialog_steps.h"
@@ -54,20 +55,21 @@ struct Row {
     uint32_t stored;
     int chosen; // Entry.
     uint32_t saved;
+    uint32_t fallback; // The default, which is not stored.
 };
 constexpr Row kRows[] = {
-    {1201, L"ContactsLayout", true, 2, 1, 1},
-    {1203, L"CntctsTitleStruct", true, 1, 2, 2},
-    {1205, L"CntctsPhoneColumnWidth", true, 40, 2, 60},
-    {1207, L"CntctsBreakLineStyle", true, 0, 2, 2},
-    {1208, L"CntctsIncldCounters", false, 0, 1, 1},
-    {1209, L"ContactsTxtByCategoryClr", false, 1, 0, 0},
-    {1210, L"CntctsHideNoPicture", false, 1, 0, 0},
-    {1212, L"CntctsActiveSearchBar", true, 0, 1, 1},
-    {1214, L"CntctsDPadActionOverride", true, 0, 1, 1},
-    {1215, L"CntctsOnClickActionOpenItem", false, 1, 0, 0},
-    {1216, L"CntctsPrvwDlgUponOpenItem", false, 1, 0, 0},
-    {1217, L"CntctsIncldFoldBttns", false, 0, 1, 1},
+    {1201, L"ContactsLayout", true, 2, 1, 1, 0},
+    {1203, L"CntctsTitleStruct", true, 1, 2, 2, 0},
+    {1205, L"CntctsPhoneColumnWidth", true, 40, 2, 60, 90},
+    {1207, L"CntctsBreakLineStyle", true, 0, 2, 2, 3},
+    {1208, L"CntctsIncldCounters", false, 0, 1, 1, 1},
+    {1209, L"ContactsTxtByCategoryClr", false, 1, 0, 0, 0},
+    {1210, L"CntctsHideNoPicture", false, 1, 0, 0, 0},
+    {1212, L"CntctsActiveSearchBar", true, 0, 1, 1, 1},
+    {1214, L"CntctsDPadActionOverride", true, 0, 1, 1, 1},
+    {1215, L"CntctsOnClickActionOpenItem", false, 1, 0, 0, 0},
+    {1216, L"CntctsPrvwDlgUponOpenItem", false, 1, 0, 0, 0},
+    {1217, L"CntctsIncldFoldBttns", false, 0, 1, 1, 1},
 };
 
 TEST_F(ContactsPageTest, EveryControlChangesItsOwnSetting) {
@@ -83,12 +85,24 @@ TEST_F(ContactsPageTest, EveryControlChangesItsOwnSetting) {
             Tap(window, changed.id);
         Close();
         settingsStore.Save();
-        const uint32_t fallback = changed.isCombo ? 1 : changed.saved; // Defaults are not stored.
-        EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kContacts, changed.name).value_or(fallback),
+        EXPECT_EQ(HasValue(HKEY_CURRENT_USER, kContacts, changed.name),
+                  changed.saved != changed.fallback)
+            << changed.id;
+        EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kContacts, changed.name).value_or(changed.fallback),
                   changed.saved)
             << changed.id;
         SetNumber(HKEY_CURRENT_USER, kContacts, changed.name, changed.stored);
         EXPECT_TRUE(GetTree(HKEY_CURRENT_USER) == before) << "others touched by " << changed.id;
+    }
+}
+
+TEST_F(ContactsPageTest, StoresNothingThatWasNotChanged) {
+    OpenAndSave();
+    const std::wstring below = std::wstring(kContacts) + L"\\";
+    for (const auto& [name, value] : GetTree(HKEY_CURRENT_USER)) {
+        if (name.starts_with(below)) {
+            EXPECT_EQ(value.type, static_cast<DWORD>(REG_NONE)) << testing::PrintToString(name);
+        }
     }
 }
 
@@ -104,11 +118,14 @@ TEST_F(ContactsPageTest, KeepsWhatItCannotOffer) {
     for (const Row& row : kRows)
         EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kContacts, row.name), 4711u) << row.id;
 
+    SetNumber(HKEY_CURRENT_USER, kContacts, L"CntctsPhoneColumnWidth", 0x80000000);
     window = Open();
+    EXPECT_EQ(TextOf(GetDlgItem(window, 1205)), L"2147483648");
     Choose(window, 1201, 0);
     Tap(window, 1215);
     Tick(1, true);
     Close();
+    EXPECT_EQ(settingsStore.CntctsPhoneColumnWidth.value, 0x80000000u);
     EXPECT_EQ(settingsStore.ContactsLayout.value, 0u);
     EXPECT_EQ(settingsStore.CntctsOnClickActionOpenItem.value, 0u);
     EXPECT_EQ(settingsStore.CntctsActiveLanguages.value, 0x80000043u);
@@ -119,9 +136,11 @@ TEST_F(ContactsPageTest, ListsAlphabetsGoodAndBad) {
     folder_->Write(L"CustomAlphabets\\broken.TXT", "Only a name\n");
     folder_->Write(L"CustomAlphabets\\One.txt", "One\nX\n");
     folder_->Write(L"CustomAlphabets\\Picture.png", "A\nB\n");
+    folder_->Write(L"CustomAlphabets\\.txt", "Nameless\nA\n");
     SetText(HKEY_CURRENT_USER, kAlphabets, L"0", L"Vanished");
     SetText(HKEY_CURRENT_USER, kAlphabets, L"1", L"gREEK");
     SetNumber(HKEY_CURRENT_USER, kAlphabets, L"2", 7);
+    SetText(HKEY_CURRENT_USER, kAlphabets, L"3", L"");
     Open();
     const std::wstring rows = RowsOf(List());
     const std::wstring unreadable = LanguageText(IDS_ALPHABET_UNREADABLE).CStr();
@@ -150,6 +169,35 @@ TEST_F(ContactsPageTest, ListsAlphabetsGoodAndBad) {
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"0"), L"Greek");
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"1"), L"One");
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kAlphabets, L"2"));
+}
+
+TEST_F(ContactsPageTest, AnUnreadableAlphabetThatIsActiveStays) {
+    folder_->Write(L"CustomAlphabets\\Bad.txt", "Only a name\n");
+    folder_->Write(L"CustomAlphabets\\Good.txt", "Good\nA\n");
+    SetText(HKEY_CURRENT_USER, kAlphabets, L"0", L"Bad");
+    Open();
+    EXPECT_TRUE(IsTicked(kLanguages));
+    Tick(kLanguages + 1, true);
+    Close();
+    settingsStore.Save();
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"0"), L"Bad");
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"1"), L"Good");
+}
+
+TEST_F(ContactsPageTest, NoAlphabetCanBeActiveWhileItIsUnknownWhichAre) {
+    folder_->Write(L"CustomAlphabets\\Good.txt", "Good\nA\n");
+    SetText(HKEY_CURRENT_USER, kAlphabets, L"0", L"Other");
+    StandInResetCalls();
+    StandInFailCall(kRegEnumValueCalls, 1, ERROR_ACCESS_DENIED);
+    Open();
+    StandInResetCalls();
+    Tick(0, false);
+    Tick(kLanguages, true);
+    EXPECT_FALSE(IsTicked(0)) << "those that are built in are known";
+    EXPECT_FALSE(IsTicked(kLanguages)) << "it would be lost";
+    Close();
+    settingsStore.Save();
+    EXPECT_EQ(GetText(HKEY_CURRENT_USER, kAlphabets, L"0"), L"Other");
 }
 
 TEST_F(ContactsPageTest, EnterTicksTheFocusedAlphabet) {

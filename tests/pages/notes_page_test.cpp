@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/include/stand_in.h"
 #include "resource_ids.h"
@@ -176,6 +178,7 @@ TEST_F(NotesPageTest, LeavesFoldersAloneThatItCouldNotRead) {
         StandInFailCall(call, 1, ERROR_ACCESS_DENIED);
         page_.reset(CreatePage(owner_, 3));
         EXPECT_EQ(RowsOf(List()), L"") << call;
+        EXPECT_FALSE(IsEnabled(kAdd)) << "what is added would be lost";
         Close();
         StandInResetCalls();
         EXPECT_EQ(GetText(HKEY_CURRENT_USER, kFolders, L"0"), A()) << call;
@@ -212,6 +215,37 @@ TEST_F(NotesPageTest, TheRootCannotBeAdded) {
     EXPECT_EQ(answer.count, 1);
     EXPECT_EQ(RowsOf(List()), L"");
     Close();
+    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kFolders, L"0"));
+}
+
+// Another program may close the main window while a dialog, and the page below, are open.
+TEST_F(NotesPageTest, SurvivesBeingClosedBehindItsDialogs) {
+    {
+        HWND window = Open();
+        const MessageBoxAnswer answer(IDOK);
+        const DialogSteps steps(L"SelectFolderWin", {[this](HWND) { Close(); }});
+        Tap(window, kAdd);
+        EXPECT_FALSE(IsWindow(window));
+        EXPECT_EQ(answer.count, 0) << "no folder was chosen";
+    }
+    for (const int button : {kAdd, kRemove}) {
+        HWND window = Open();
+        std::optional<DialogSteps> box;
+        const auto closeBehindBox = [&] {
+            box.emplace(L"#32770", std::vector<DialogSteps::Step>{[this](HWND refusal) {
+                            Close();
+                            if (IsWindow(refusal)) PostMessage(refusal, WM_COMMAND, IDOK, 0);
+                        }});
+        };
+        const DialogSteps folder(L"SelectFolderWin", {[&](HWND dialog) { // The root is refused.
+                                     closeBehindBox();
+                                     SendMessage(dialog, WM_COMMAND, IDOK, 0);
+                                 }});
+        if (button == kRemove) closeBehindBox();
+        Tap(window, button);
+        EXPECT_FALSE(IsWindow(window)) << button;
+        if (page_) Close();
+    }
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kFolders, L"0"));
 }
 

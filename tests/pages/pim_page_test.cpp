@@ -73,6 +73,17 @@ TEST_F(PimPageTest, OffersWhatIsInstalled) {
     Close();
 }
 
+TEST_F(PimPageTest, ShowsTheDeviceForWhatIsNotInstalled) {
+    for (const uint32_t stored : {2U, 77U}) {
+        SetNumber(HKEY_CURRENT_USER, kPim, L"PimSw", stored);
+        EXPECT_EQ(SelectedIndex(Open(), kApplication), 0) << stored;
+        ExpectEnabled(false, true, stored == 2);
+        EXPECT_EQ(settingsStore.PimSw.value, stored) << "not before the page is closed";
+        Close();
+        EXPECT_EQ(settingsStore.PimSw.value, 0u) << stored;
+    }
+}
+
 TEST_F(PimPageTest, RefusesTheCalendarThatIsNotInstalled) {
     InstallOthers();
     SetNumber(HKEY_CURRENT_USER, kPim, L"PimSw", 2);

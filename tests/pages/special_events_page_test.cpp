@@ -9,6 +9,7 @@
 #include "shell/services/resource_strings.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
+#include "ui/controls.h"
 
 namespace {
 constexpr wchar_t kEvents[] = L"Software\\Teskel\\Orvane\\SEvents";
@@ -97,5 +98,18 @@ TEST_F(SpecialEventsPageTest, CategoriesAreKeptByName) {
     EXPECT_TRUE(settingsStore.AdditionalFilterCat2.value == L"Work");
     EXPECT_TRUE(settingsStore.AdditionalFilterCat3.value == L"Birthday & more");
     EXPECT_TRUE(settingsStore.AdditionalFilterCat4.value.IsEmpty());
+}
+
+TEST_F(SpecialEventsPageTest, ACategoryMayBeCalledAsTheEntryForNone) {
+    SetText(HKEY_CURRENT_USER, kEvents, L"AdditionalFilterCat1", L"Off");
+    SetText(HKEY_CURRENT_USER, kEvents, L"AdditionalFilterCat2", L"Vanished");
+    HWND window = OpenWith("1\t0\tOff\n2\t0\tFamily\n");
+    ASSERT_EQ(EntriesOf(GetDlgItem(window, 1213)), L"Off|Family|Off");
+    const int shown[] = {2, 0, 0};
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(SelectedIndex(window, static_cast<UINT>(1213 + 2 * i)), shown[i]) << i;
+    Close();
+    EXPECT_STREQ(settingsStore.AdditionalFilterCat1.value.CStr(), L"Off");
+    EXPECT_TRUE(settingsStore.AdditionalFilterCat2.value.IsEmpty());
 }
 } // namespace

@@ -37,10 +37,12 @@ TEST(AlphabetFile, HasLimits) {
     const std::string blank(1000, ' ');
     EXPECT_TRUE(Read(name + "\n" + Repeated(group + "\n", kMaxAlphabetGroups)));
     EXPECT_TRUE(Read("N\nA\n" + Repeated(blank + "\n", 4)));
+    EXPECT_TRUE(Read("N\nA" + std::string(1021, ' ') + "\nB\n"));
     for (const std::string& bad :
          {std::string(), std::string("Name only\n"), std::string("\nA\n"), std::string("N\n \n"),
           name + "n\nA\n", "N\n" + group + "g\n", "N\n" + Repeated("A\n", kMaxAlphabetGroups + 1),
-          "N\nA\n" + Repeated(blank + "\n", 5), std::string("N\nA\0B\n", 6),
+          "N\nA\n" + Repeated(blank + "\n", 5), "N\nA" + std::string(1022, ' ') + "B\n",
+          "N" + std::string(1022, ' ') + "A\n", std::string("N\nA\0B\n", 6),
           std::string("N\x1B\nA\n"), std::string("N\nA\rB\n"), std::string("N\nA\xC2\x85\n"),
           std::string("\xFF\xFEN\0\n\0A\0", 8)})
         EXPECT_FALSE(Read(bad)) << bad.substr(0, 40);
