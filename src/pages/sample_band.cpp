@@ -27,6 +27,11 @@ SIZE ClientSize(HWND window) {
     GetClientRect(window, &client);
     return {client.right, client.bottom};
 }
+
+void InvalidateBand(HWND page) {
+    const RECT band{0, 0, ClientSize(page).cx, ScaleY(kBandHeight)};
+    InvalidateRect(page, &band, TRUE);
+}
 } // namespace
 
 SampleBand::SampleBand(HWND page) : width_(ClientSize(page).cx) {}
@@ -69,14 +74,18 @@ void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font) {
 
 void RedrawSampleBand(HWND page) {
     if (!IsWindow(page)) return;
-    const RECT band{0, 0, ClientSize(page).cx, ScaleY(kBandHeight)};
-    InvalidateRect(page, &band, TRUE);
+    InvalidateBand(page);
     UpdateWindow(page);
 }
 
 void RedrawOnSelection(HWND page, UINT listId, const NMHDR& header) {
     if (header.idFrom != listId || header.code != LVN_ITEMCHANGED) return;
     const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-    if ((change.uChanged & LVIF_STATE) && ((change.uNewState ^ change.uOldState) & LVIS_SELECTED))
+    if (!(change.uChanged & LVIF_STATE)) return;
+    if (!((change.uNewState ^ change.uOldState) & LVIS_SELECTED)) return;
+    // After a row was deselected another mostly follows.
+    if (change.uNewState & LVIS_SELECTED)
         RedrawSampleBand(page);
+    else
+        InvalidateBand(page);
 }

@@ -16,7 +16,6 @@
 
 namespace {
 constexpr int kColumnWidth = 300;
-constexpr int kMaxName = 255;
 
 void InsertName(HWND list, int row, const WideString& name) {
     LVITEM item{};
@@ -27,10 +26,10 @@ void InsertName(HWND list, int row, const WideString& name) {
 }
 
 WideString NameOfRow(HWND list, int row) {
-    wchar_t name[kMaxName + 1] = L"";
+    wchar_t name[kMaxSchemeName + 1] = L"";
     LVITEM item{};
     item.pszText = name;
-    item.cchTextMax = kMaxName + 1;
+    item.cchTextMax = kMaxSchemeName + 1;
     SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
     return WideString(name);
 }
@@ -71,7 +70,7 @@ void FillSchemeList(HWND list, HFONT font) {
 }
 
 int SaveScheme(HWND owner, HWND nameBox, HWND list) {
-    WideString name = ControlText(nameBox, kMaxName);
+    WideString name = ControlText(nameBox, kMaxSchemeName);
     if (name.IsEmpty()) {
         ShowMessage(owner, IDS_SCHEME_NO_NAME, IDS_SCHEME_NO_NAME_CAPTION);
         return 0;
