@@ -66,11 +66,11 @@ void ReplacementFile::TakePlace() {
     WideString old(path_);
     old.Append(L".old");
     DeleteFile(old.CStr());
-    if (!MoveFile(path_.CStr(), old.CStr())) {
-        DeleteFile(writtenPath_.CStr());
-    } else if (MoveFile(writtenPath_.CStr(), path_.CStr())) {
+    const bool isAside = MoveFile(path_.CStr(), old.CStr());
+    if (isAside && MoveFile(writtenPath_.CStr(), path_.CStr())) {
         DeleteFile(old.CStr());
-    } else if (MoveFile(old.CStr(), path_.CStr())) {
-        DeleteFile(writtenPath_.CStr());
+        return;
     }
+    // The old file back, and the new one only where that fails too.
+    if (!isAside || MoveFile(old.CStr(), path_.CStr())) DeleteFile(writtenPath_.CStr());
 }

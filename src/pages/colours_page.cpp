@@ -24,7 +24,6 @@ constexpr UINT kLoadScheme = 1205;
 constexpr UINT kDeleteScheme = 1206;
 
 constexpr int kColoursTab = 0;
-constexpr int kMaxSchemeName = 255;
 
 struct ColourItem {
     DwordSetting SettingsStore::*setting;

@@ -150,8 +150,9 @@ void FillFaces(HWND combo, const WideString& current) {
     HDC dc = GetDC(combo);
     EnumFonts(dc, nullptr, AddFace, reinterpret_cast<LPARAM>(combo));
     ReleaseDC(combo, dc);
-    // The first face that begins like this, as the platform searches; an empty text finds the first
-    // of all.
+    // Every face begins like an empty text.
+    if (current.IsEmpty()) return;
+    // The first face that begins like this, as the platform searches.
     SendMessage(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1),
                 reinterpret_cast<LPARAM>(current.CStr()));
 }

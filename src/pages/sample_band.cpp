@@ -21,6 +21,11 @@ constexpr int kListEnd = 28; // From the page's lower edge.
 constexpr int kListRowHeight = 18;
 constexpr int kButtonFromRight = 50;
 constexpr int kButtonWidth = 40;
+
+void InvalidateBand(HWND page) {
+    const RECT band{0, 0, ClientSize(page).cx, ScaleY(kBandHeight)};
+    InvalidateRect(page, &band, TRUE);
+}
 } // namespace
 
 SampleBand::SampleBand(HWND page) : width_(ClientSize(page).cx) {}
@@ -63,14 +68,18 @@ void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font) {
 
 void RedrawSampleBand(HWND page) {
     if (!IsWindow(page)) return;
-    const RECT band{0, 0, ClientSize(page).cx, ScaleY(kBandHeight)};
-    InvalidateRect(page, &band, TRUE);
+    InvalidateBand(page);
     UpdateWindow(page);
 }
 
 void RedrawOnSelection(HWND page, UINT listId, const NMHDR& header) {
     if (header.idFrom != listId || header.code != LVN_ITEMCHANGED) return;
     const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-    if ((change.uChanged & LVIF_STATE) && ((change.uNewState ^ change.uOldState) & LVIS_SELECTED))
+    if (!(change.uChanged & LVIF_STATE)) return;
+    if (!((change.uNewState ^ change.uOldState) & LVIS_SELECTED)) return;
+    // After a row was deselected another mostly follows.
+    if (change.uNewState & LVIS_SELECTED)
         RedrawSampleBand(page);
+    else
+        InvalidateBand(page);
 }

@@ -32,5 +32,6 @@ void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font);
 
 void RedrawSampleBand(HWND page);
 
-// Redraws the band at once when a notification tells that another row of the list is selected.
+// Redraws the band when a notification tells of another selection in the list: at once when a row
+// became selected.
 void RedrawOnSelection(HWND page, UINT listId, const NMHDR& header);

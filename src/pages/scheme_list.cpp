@@ -14,13 +14,12 @@
 #include "ui/messages.h"
 
 namespace {
-constexpr int kMaxName = 255;
 
 WideString NameOfRow(HWND list, int row) {
-    wchar_t name[kMaxName + 1] = L"";
+    wchar_t name[kMaxSchemeName + 1] = L"";
     LVITEM item{};
     item.pszText = name;
-    item.cchTextMax = kMaxName + 1;
+    item.cchTextMax = kMaxSchemeName + 1;
     SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
     return WideString(name);
 }
@@ -54,7 +53,7 @@ void FillSchemeList(HWND list, HFONT font) {
 }
 
 int SaveScheme(HWND owner, HWND nameBox, HWND list) {
-    WideString name = ControlText(nameBox, kMaxName);
+    WideString name = ControlText(nameBox, kMaxSchemeName);
     if (name.IsEmpty()) {
         ShowMessage(owner, IDS_SCHEME_NO_NAME, IDS_SCHEME_NO_NAME_CAPTION);
         return 0;

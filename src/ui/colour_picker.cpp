@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <string_view>
 
 #include "resource_ids.h"
 #include "shell/services/application.h"
@@ -54,7 +55,7 @@ constexpr int kNewWidth = 44;
 
 class ColourPicker final : public ModalWindow {
   public:
-    explicit ColourPicker(COLORREF start) : old_(start), choice_(start) { old_ = choice_.Colour(); }
+    explicit ColourPicker(COLORREF start) : choice_(start), old_(choice_.Colour()) {}
     COLORREF Pick(HWND owner);
 
   protected:
@@ -76,8 +77,8 @@ class ColourPicker final : public ModalWindow {
     void OnValueTyped(HWND window, int component);
     void OnHtmlTyped(HWND window);
 
-    uint32_t old_;
     ColourChoice choice_;
+    uint32_t old_; // What was chosen at first.
     ColourPalette palette_{choice_};
     HueField field_{choice_};
     LightnessBar lightness_{choice_};
@@ -312,9 +313,12 @@ void ColourPicker::OnNotify(HWND window, const NMHDR& header) {
 void ColourPicker::OnScroll(HWND window, HWND bar) {
     const auto id = static_cast<UINT>(GetDlgCtrlID(bar));
     if (id < kValueBars || id >= kValueBars + kComponents) return;
+    const auto component = static_cast<int>(id - kValueBars);
     const auto value = static_cast<uint32_t>(SendMessage(bar, TBM_GETPOS, 0, 0));
     const uint32_t colour = choice_.IsNone() ? 0 : choice_.Colour();
-    choice_.Set(WithComponent(colour, static_cast<int>(id - kValueBars), value));
+    // A bar also tells of a key let go of, which moved nothing at the bar's end.
+    if (value == Component(colour, component)) return;
+    choice_.Set(WithComponent(colour, component, value));
     ShowChoice(window, id);
 }
 
@@ -352,10 +356,11 @@ void ColourPicker::OnEdit(HWND window, UINT id, UINT notification) {
 void ColourPicker::OnValueTyped(HWND window, int component) {
     const UINT id = kValueEdits + static_cast<UINT>(component);
     HWND edit = Item(window, id);
-    const WideString text = ControlText(edit);
-    // The start of another number.
-    if (text.IsEmpty() || text == WideString(L"-")) return;
-    const uint32_t value = NumberFromDecimalText(text.CStr());
+    const WideString typed = ControlText(edit);
+    const std::wstring_view text(typed.CStr());
+    // No number yet.
+    if (text.find_first_of(L"0123456789") == std::wstring_view::npos) return;
+    const uint32_t value = NumberFromDecimalText(text);
     if (value <= kHighest) {
         const uint32_t colour = choice_.IsNone() ? 0 : choice_.Colour();
         choice_.Set(WithComponent(colour, component, value));

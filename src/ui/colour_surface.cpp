@@ -183,6 +183,7 @@ constexpr COLORREF kPalette[kColours][kShades] = {
 } // namespace
 
 void ColourPalette::ShowWide(bool isWide) {
+    if (isWide == isWide_) return;
     isWide_ = isWide;
     marked_ = 0;
     Redraw();

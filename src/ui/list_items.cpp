@@ -91,10 +91,11 @@ void SetRowState(HWND list, int row, UINT state, UINT mask = LVIS_SELECTED | LVI
 } // namespace
 
 HWND CreateList(HWND parent, UINT id, HFONT font, int rowHeight) {
-    HWND list = CreateHiddenControl(parent, WC_LISTVIEW, L"",
-                                    WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
-                                        LVS_NOCOLUMNHEADER | LVS_SHOWSELALWAYS,
-                                    id, {}, font);
+    HWND list =
+        CreateHiddenControl(parent, WC_LISTVIEW, L"",
+                            WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE |
+                                LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER | LVS_SHOWSELALWAYS,
+                            id, {}, font);
     // Rows are one pixel higher than the small images, even where none shows. The list view
     // destroys the image list.
     HIMAGELIST images = ImageList_Create(1, ScaleY(rowHeight) - 1, ILC_COLOR, 0, 1);

@@ -10,7 +10,7 @@ namespace {
 // the window; a full-screen window over them lends them its own.
 class TitleScope {
   public:
-    TitleScope(HWND owner, const wchar_t* title) : owner_(owner), main_(owner) {
+    TitleScope(HWND owner, const wchar_t* title) : owner_(owner), main_(owner), lentTitle_(title) {
         while (HWND above = GetParent(main_))
             main_ = above;
         ownersTitle_ = ControlText(owner_);
@@ -21,15 +21,21 @@ class TitleScope {
     TitleScope(const TitleScope&) = delete;
     TitleScope& operator=(const TitleScope&) = delete;
     ~TitleScope() {
-        SetWindowText(owner_, ownersTitle_.CStr());
-        SetWindowText(main_, mainTitle_.CStr());
+        Restore(owner_, ownersTitle_);
+        Restore(main_, mainTitle_);
     }
 
   private:
+    // A window that got another title meanwhile keeps it.
+    void Restore(HWND window, const WideString& title) const {
+        if (ControlText(window) == lentTitle_) SetWindowText(window, title.CStr());
+    }
+
     HWND owner_;
     HWND main_;
     WideString ownersTitle_;
     WideString mainTitle_;
+    WideString lentTitle_;
 };
 } // namespace
 

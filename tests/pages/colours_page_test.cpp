@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/support/dialog_steps.h"
+#include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
 #include "ui/list_items.h"
 
@@ -49,6 +50,51 @@ TEST_F(ColoursPageTest, EachRowEditsItsOwnColour) {
         EXPECT_EQ(setting.value, static_cast<uint32_t>(row + 1)) << row;
         EXPECT_TRUE(setting.changed) << row;
     }
+    Close();
+}
+
+TEST_F(ColoursPageTest, NamesAndDescribesEachColour) {
+    HWND window = Open();
+    HWND list = GetDlgItem(window, kColours);
+    RECT client{};
+    GetClientRect(window, &client);
+    const RECT above{Scale(10), ScaleY(8), client.right - Scale(10), ScaleY(50)};
+    std::wstring labels;
+    for (UINT row = 0; row < 16; ++row) {
+        labels += (row ? L"|" : L"") + Text(883 + row);
+        SelectRow(list, static_cast<int>(row));
+        EXPECT_TRUE(ShowsText(above, Text(899 + row), DT_WORDBREAK)) << row;
+    }
+    EXPECT_EQ(RowsOf(list), labels);
+    Close();
+}
+
+TEST_F(ColoursPageTest, SavesAndDeletesASchemeByItsButtons) {
+    constexpr int kName = 1202;
+    constexpr int kSave = 1203;
+    constexpr int kSchemes = 1204;
+    constexpr int kDelete = 1206;
+    const InstallFolder folder;
+    HWND window = Open();
+    ShowTab(1);
+    HWND list = GetDlgItem(window, kSchemes);
+    SetDlgItemText(window, kName, L"Mine");
+    {
+        const MessageBoxAnswer answer(IDOK);
+        Tap(window, kSave);
+        EXPECT_EQ(answer.count, 1);
+    }
+    EXPECT_EQ(RowsOf(list), L"Mine.scm");
+    EXPECT_TRUE(folder.Has(L"Schemes\\Mine.scm"));
+    EXPECT_EQ(TextOf(GetDlgItem(window, kName)), L"");
+    SelectRow(list, 0);
+    {
+        const MessageBoxAnswer yes(IDYES);
+        Tap(window, kDelete);
+        EXPECT_EQ(yes.count, 1);
+    }
+    EXPECT_EQ(RowsOf(list), L"");
+    EXPECT_FALSE(folder.Has(L"Schemes\\Mine.scm"));
     Close();
 }
 

@@ -116,17 +116,47 @@ TEST_F(FontsPageTest, OffersEachFaceOnce) {
 }
 
 TEST_F(FontsPageTest, FontsOfSingleItemsTakeThePlaceOfTheSizes) {
+    Store(L"FontGnrlUseAdvncd", 1);
     HWND window = Open();
-    EXPECT_EQ(SecondTab(), LanguageText(IDS_TAB_FONTS_ITEM_COLOURS).CStr());
-    Tap(window, kPerItem);
-    EXPECT_EQ(SecondTab(), LanguageText(IDS_TAB_FONTS_ITEM_FONTS).CStr());
-    for (int id = 1200; id <= kTitleSize; ++id)
-        EXPECT_FALSE(IsEnabled(id)) << id;
-    EXPECT_TRUE(IsEnabled(kFace));
-    EXPECT_EQ(SendMessage(page_->tabStrip, TCM_GETITEMCOUNT, 0, 0), 2);
-    Tap(window, kPerItem);
-    EXPECT_EQ(SecondTab(), LanguageText(IDS_TAB_FONTS_ITEM_COLOURS).CStr());
-    EXPECT_TRUE(IsEnabled(kSize));
+    for (const bool hasOwnFonts : {true, false, true}) {
+        EXPECT_EQ(SecondTab(), Text(hasOwnFonts ? 1435 : 1434));
+        for (int id = 1200; id <= kTitleSize; ++id)
+            EXPECT_EQ(IsEnabled(id), !hasOwnFonts) << id;
+        EXPECT_TRUE(IsEnabled(kFace));
+        EXPECT_EQ(SendMessage(page_->tabStrip, TCM_GETITEMCOUNT, 0, 0), 2);
+        Tap(window, kPerItem);
+    }
+    Close();
+}
+
+TEST_F(FontsPageTest, NamesAndDescribesEachItem) {
+    constexpr struct {
+        UINT label;
+        UINT description;
+    } kTexts[] = {
+        {934, 959},   {935, 960},   {936, 961},   {937, 962},   {938, 963},   {939, 964},
+        {940, 965},   {941, 966},   {942, 967},   {943, 968},   {944, 969},   {945, 970},
+        {946, 971},   {947, 972},   {948, 973},   {949, 974},   {950, 975},   {951, 976},
+        {952, 977},   {953, 978},   {1242, 1242}, {1243, 1243}, {1438, 1438}, {1439, 1439},
+        {1244, 1244}, {1245, 1245}, {1246, 1246}, {954, 979},   {955, 980},   {956, 981},
+        {957, 982},   {958, 983},   {1363, 1364},
+    };
+    HWND window = OpenItem(0);
+    HWND list = GetDlgItem(window, kItems);
+    RECT client{};
+    GetClientRect(window, &client);
+    const RECT header{0, ScaleY(8), client.right, ScaleY(30)};
+    std::wstring labels;
+    int row = 0;
+    for (const auto& texts : kTexts) {
+        labels += (row ? L"|" : L"") + Text(texts.label);
+        ::SelectRow(list, row);
+        EXPECT_TRUE(ShowsText(header, Text(985) + Text(texts.description),
+                              DT_CENTER | DT_SINGLELINE | DT_NOPREFIX))
+            << row;
+        ++row;
+    }
+    EXPECT_EQ(RowsOf(list), labels);
     Close();
 }
 
@@ -223,6 +253,8 @@ TEST_F(FontsPageTest, GivesTheGeneralSizeToAllButContacts) {
         EXPECT_EQ(no.caption, LanguageText(IDS_FONTS_SAME_SIZE_CAPTION).CStr());
     }
     EXPECT_FALSE(settingsStore.FontCalTasks.height.changed);
+    for (int id = 0; id < 33; ++id)
+        FontOfStore(id)->colour.value = RGB(id, 0, 0);
     const MessageBoxAnswer yes(IDYES);
     SendMessage(window, WM_COMMAND, IDC_SAME_SIZE, 0);
     for (int id = 0; id < 33; ++id) {
@@ -230,7 +262,7 @@ TEST_F(FontsPageTest, GivesTheGeneralSizeToAllButContacts) {
         const bool spared = id == 22 || id == 23;
         EXPECT_EQ(font.height.value == 17, !spared) << id;
         EXPECT_EQ(font.height.changed, id != 0 && !spared) << id;
-        EXPECT_EQ(font.colour.value, kNoColour) << id;
+        EXPECT_EQ(font.colour.value, RGB(id, 0, 0)) << id;
     }
     Close();
 }
@@ -253,6 +285,8 @@ TEST_F(FontsPageTest, PaintsTheSelectedItemWithinItsBand) {
             stray += PixelAt(x, y) != RGB(255, 255, 255);
     }
     EXPECT_EQ(stray, 0) << "the sample ran over its band";
+    ClearSelection(GetDlgItem(window, kItems));
+    EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE)) << "what is selected next may show at once";
     Close();
 }
 } // namespace

@@ -17,6 +17,7 @@
 #include "tests/support/install_folder.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
+#include "ui/list_items.h"
 
 namespace {
 constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
@@ -200,6 +201,32 @@ TEST_F(MainWindowTest, ALoadedSchemeLeadsBackToThePageList) {
     EXPECT_EQ(timesTold, 1);
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kColourKey, L"GeneralFontColor"), 4660u);
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kColourKey, L"HighlightBgClr"));
+}
+
+// The picker lends its title to the windows below, which may get another meanwhile.
+TEST_F(MainWindowTest, KeepsItsTitleWhenAPageIsClosedBehindThePicker) {
+    constexpr int kEdit = 1200;
+    constexpr int kColours = 1201;
+    Start();
+    HWND page = OpenPage(8);
+    const std::wstring caption = TextOf(window_);
+    const std::wstring pagesOwn = TextOf(page);
+    SelectRow(GetDlgItem(page, kColours), 0);
+    std::wstring lent;
+    {
+        const DialogSteps steps(L"ColourPickerWin", {[&](HWND picker) {
+                                    lent = TextOf(window_);
+                                    EXPECT_EQ(lent, TextOf(picker));
+                                }});
+        Tap(page, kEdit);
+    }
+    EXPECT_NE(lent, caption);
+    EXPECT_EQ(TextOf(window_), caption);
+    EXPECT_EQ(TextOf(page), pagesOwn);
+    const DialogSteps steps(L"ColourPickerWin", {[&](HWND) { SendMessage(page, WM_CLOSE, 0, 0); }});
+    Tap(page, kEdit);
+    EXPECT_FALSE(IsWindow(page));
+    EXPECT_EQ(TextOf(window_), L"OV Options");
 }
 
 TEST_F(MainWindowTest, CancelAsksAndSavesNothing) {

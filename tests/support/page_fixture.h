@@ -8,12 +8,15 @@
 
 #include <memory>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "files/icon_set.h"
 #include "pages/settings_page.h"
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
 #include "shell/services/application.h"
+#include "shell/services/handles.h"
 #include "shell/services/scaling.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
@@ -79,6 +82,33 @@ class PageFixture : public RegistryFixture {
 
     bool IsEnabled(int id) const { return IsWindowEnabled(GetDlgItem(page_->hwnd, id)); }
 
+    // A text of the language library; every one that a test asks for must be there.
+    static std::wstring Text(UINT id) {
+        wchar_t text[512] = L"";
+        EXPECT_GT(LoadString(application.languageLibrary, id, text, 512), 0) << id;
+        return text;
+    }
+
+    // Whether a part of the page shows this text alone: drawn over it, nothing changes.
+    [[nodiscard]] bool ShowsText(const RECT& part, const std::wstring& text, UINT format) const {
+        HWND window = page_->hwnd;
+        UpdateWindow(window);
+        const auto font = reinterpret_cast<HFONT>(SendMessage(page_->tabStrip, WM_GETFONT, 0, 0));
+        HDC dc = GetDC(window);
+        const std::vector<uint32_t> shown = PixelsOf(dc, part);
+        FillRect(dc, &part, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+        const std::vector<uint32_t> blank = PixelsOf(dc, part);
+        {
+            const SelectScope pageFont(dc, font);
+            RECT place = part;
+            DrawText(dc, text.c_str(), -1, &place, format);
+        }
+        const std::vector<uint32_t> drawn = PixelsOf(dc, part);
+        ReleaseDC(window, dc);
+        EXPECT_NE(drawn, blank);
+        return shown == drawn;
+    }
+
     uint32_t Shown(const ControlCase& control) const {
         return static_cast<uint32_t>(SendDlgItemMessage(
             page_->hwnd, control.id, control.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0));
@@ -110,5 +140,24 @@ class PageFixture : public RegistryFixture {
     std::unique_ptr<SettingsPage> page_;
 
   private:
+    static std::vector<uint32_t> PixelsOf(HDC dc, const RECT& part) {
+        const LONG width = part.right - part.left;
+        const LONG height = part.bottom - part.top;
+        BITMAPINFO info{};
+        info.bmiHeader.biSize = sizeof(info.bmiHeader);
+        info.bmiHeader.biWidth = width;
+        info.bmiHeader.biHeight = height;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* bits = nullptr;
+        const UniqueBitmap bitmap(CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+        const UniqueDc copy(CreateCompatibleDC(dc));
+        const SelectScope selected(copy.Get(), bitmap.Get());
+        BitBlt(copy.Get(), 0, 0, width, height, dc, part.left, part.top, SRCCOPY);
+        GdiFlush();
+        const auto* pixels = static_cast<const uint32_t*>(bits);
+        return {pixels, pixels + width * height};
+    }
+
     int row_;
 };

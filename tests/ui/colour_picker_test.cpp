@@ -138,6 +138,24 @@ TEST_F(ColourPickerTest, RefusesValuesAbove255) {
     }
 }
 
+// Letting go of a key at a bar's end, or typing what may become a number, chooses nothing.
+TEST_F(ColourPickerTest, NoneStaysUntilAValueIsChosen) {
+    EXPECT_EQ(PickAfter(kNoColour,
+                        [](HWND picker) {
+                            SendMessage(picker, WM_HSCROLL, TB_ENDTRACK,
+                                        reinterpret_cast<LPARAM>(GetDlgItem(picker, kBars)));
+                            EXPECT_EQ(Values(picker), L",0 ,0 ,0 ");
+                        }),
+              kNoColour);
+    for (const wchar_t* typed : {L"x", L"+", L" ", L"-"}) {
+        const MessageBoxAnswer answer(IDOK);
+        EXPECT_EQ(PickAfter(kNoColour, [typed](HWND picker) { Type(picker, kEdits, typed); }),
+                  kNoColour)
+            << typed;
+        EXPECT_EQ(answer.count, 0) << typed;
+    }
+}
+
 TEST_F(ColourPickerTest, ReadsAnHtmlColourWhenItIsWhole) {
     EXPECT_EQ(
         PickAfter(
@@ -183,6 +201,7 @@ TEST_F(ColourPickerTest, KeysMoveTheMarksAndLeaveAtTheEdges) {
                             Press(picker, VK_RIGHT);
                             Press(picker, VK_DOWN);
                             EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030") << "only marked";
+                            SendMessage(picker, WM_SIZE, 0, 0); // As the input panel causes.
                             Press(picker, VK_RETURN);
                             EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"FF0000");
                             Press(picker, VK_DOWN);
