@@ -245,8 +245,8 @@ TEST_F(NotesPageTest, SurvivesBeingClosedBehindItsDialogs) {
         Tap(window, button);
         EXPECT_FALSE(IsWindow(window)) << button;
         if (page_) Close();
+        EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kFolders, L"0")) << button;
     }
-    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kFolders, L"0"));
 }
 
 TEST_F(NotesPageTest, RemovesTheSelectedFolder) {
