@@ -14,7 +14,6 @@
 #include "ui/messages.h"
 
 namespace {
-
 WideString NameOfRow(HWND list, int row) {
     wchar_t name[kMaxSchemeName + 1] = L"";
     LVITEM item{};

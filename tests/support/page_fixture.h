@@ -95,15 +95,15 @@ class PageFixture : public RegistryFixture {
         UpdateWindow(window);
         const auto font = reinterpret_cast<HFONT>(SendMessage(page_->tabStrip, WM_GETFONT, 0, 0));
         HDC dc = GetDC(window);
-        const std::vector<uint32_t> shown = PixelsOf(dc, part);
+        const std::vector<uint32_t> shown = PixelsIn(dc, part);
         FillRect(dc, &part, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-        const std::vector<uint32_t> blank = PixelsOf(dc, part);
+        const std::vector<uint32_t> blank = PixelsIn(dc, part);
         {
             const SelectScope pageFont(dc, font);
             RECT place = part;
             DrawText(dc, text.c_str(), -1, &place, format);
         }
-        const std::vector<uint32_t> drawn = PixelsOf(dc, part);
+        const std::vector<uint32_t> drawn = PixelsIn(dc, part);
         ReleaseDC(window, dc);
         EXPECT_NE(drawn, blank);
         return shown == drawn;
@@ -140,7 +140,7 @@ class PageFixture : public RegistryFixture {
     std::unique_ptr<SettingsPage> page_;
 
   private:
-    static std::vector<uint32_t> PixelsOf(HDC dc, const RECT& part) {
+    static std::vector<uint32_t> PixelsIn(HDC dc, const RECT& part) {
         const LONG width = part.right - part.left;
         const LONG height = part.bottom - part.top;
         BITMAPINFO info{};
