@@ -12,7 +12,7 @@
 #include "shell/services/today_screen.h"
 #include "ui/controls.h"
 #include "ui/messages.h"
-#include "ui/modal_loop.h"
+#include "ui/template_dialog.h"
 
 namespace {
 constexpr int kMargin = 10;
@@ -30,46 +30,40 @@ constexpr wchar_t kNothingSelected[] = L"No Today screen plugin is selecetd. Ple
                                        L"screen plugin from the selection combo-box.";
 constexpr wchar_t kNothingSelectedCaption[] = L"Selection Missing";
 
-class AddPluginDialog final : private ModalLoop {
+class AddPluginDialog final : private TemplateDialog {
   public:
     // IDOK when a plug-in was chosen.
-    int Run(HWND owner);
+    int Run(HWND owner) { return RunTemplate(owner, IDD_ADD_PLUGIN, IDS_TABS_ADD_TITLE); }
     [[nodiscard]] const WideString& Chosen() const { return chosen_; }
 
   private:
-    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
-    void OnInit(HWND dialog);
-    void OnCommand(HWND dialog, UINT id);
+    void OnInit(HWND dialog) override;
+    void Layout(HWND dialog) override;
+    void OnCommand(HWND dialog, UINT id) override;
     void OnOk(HWND dialog);
 
     std::vector<WideString> plugins_; // In the order of the list's entries.
     WideString chosen_;
 };
 
-void LayOut(HWND window) {
+void AddPluginDialog::Layout(HWND dialog) {
     RECT client{};
-    GetClientRect(window, &client);
+    GetClientRect(dialog, &client);
     const int left = Scale(kMargin);
     const int width = client.right - 2 * left;
     const int button = Scale(kButtonWidth);
     const int row = ScaleY(kRowHeight);
-    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_HELP),
+    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_HELP),
                  {left, ScaleY(kHelpTop), width, ScaleY(kHelpHeight)});
-    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_LABEL), {left, ScaleY(kLabelTop), width, row});
-    PlaceControl(GetDlgItem(window, IDC_ADD_PLUGIN_LIST),
+    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LABEL), {left, ScaleY(kLabelTop), width, row});
+    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LIST),
                  {left, ScaleY(kListTop), width, ScaleY(kDropHeight)});
     PlaceControl(
-        GetDlgItem(window, IDCANCEL),
+        GetDlgItem(dialog, IDCANCEL),
         {client.right - left - button, client.bottom - ScaleY(kButtonGap) - row, button, row});
 }
 
-int AddPluginDialog::Run(HWND owner) {
-    return RunDialog(owner, IDD_ADD_PLUGIN, DialogProc, reinterpret_cast<LPARAM>(this));
-}
-
 void AddPluginDialog::OnInit(HWND dialog) {
-    FillScreen(dialog, LanguageText(IDS_TABS_ADD_TITLE).CStr());
     SHMENUBARINFO bar{};
     bar.cbSize = sizeof(bar);
     bar.hwndParent = dialog;
@@ -84,7 +78,6 @@ void AddPluginDialog::OnInit(HWND dialog) {
     for (const WideString& plugin : plugins_)
         AddEntry(list, plugin.CStr());
     SelectIndex(list, 0);
-    LayOut(dialog);
 }
 
 void AddPluginDialog::OnCommand(HWND dialog, UINT id) {
@@ -112,35 +105,6 @@ void AddPluginDialog::OnOk(HWND dialog) {
     }
     chosen_ = plugin;
     Finish(IDOK);
-}
-
-INT_PTR AddPluginDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
-    switch (message) {
-    case WM_INITDIALOG:
-        OnInit(dialog);
-        return FALSE; // The loop gives the focus.
-    case WM_SIZE:
-        LayOut(dialog);
-        return TRUE;
-    case WM_COMMAND:
-        OnCommand(dialog, LOWORD(wParam));
-        return TRUE;
-    case WM_CTLCOLORDLG:
-    case WM_CTLCOLORSTATIC:
-        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
-    case WM_DESTROY:
-        OnDestroyed();
-        return TRUE;
-    default:
-        return FALSE;
-    }
-}
-
-INT_PTR CALLBACK AddPluginDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
-                                             LPARAM lParam) {
-    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
-    auto* self = reinterpret_cast<AddPluginDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
-    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
 }
 } // namespace
 

@@ -53,10 +53,8 @@ void AlphabetList::Place(const ControlPlace& place) const {
 }
 
 void AlphabetList::Fill() {
-    SendMessage(list_, WM_SETREDRAW, FALSE, 0);
     AddLanguages();
     AddCustoms();
-    SendMessage(list_, WM_SETREDRAW, TRUE, 0);
     FitColumn(list_);
 }
 

@@ -241,7 +241,7 @@ void CategoryPage::OnButton(HWND window, UINT id) {
 }
 
 // The icons of the folder are to be had at once, not only when the page is left.
-void CategoryPage::OnPathChanged(HWND window) const {
+void CategoryPage::OnPathChanged(HWND window) {
     const WideString path = ControlText(Item(window, kFolderEdit));
     StringSetting& setting = settingsStore.AdditionalIconsFolder;
     if (path != setting.value) setting.Set(path.CStr());
@@ -279,7 +279,7 @@ void CategoryPage::ShowFilter(HWND window, int position) {
     SelectIndex(Item(window, kSensitivity), static_cast<uint32_t>(filter->sensitivity));
 }
 
-void CategoryPage::RenameFilter(HWND window) const {
+void CategoryPage::RenameFilter(HWND window) {
     HWND combo = Item(window, kFilter);
     const int position = SelectedIndex(window, kFilter);
     WideString title = ControlText(combo);

@@ -22,14 +22,14 @@ class CategoryPage final : public FormPage {
     bool BrowsePath(HWND window, const FormRow& row, WideString& path) override;
 
   private:
-    void FillLists(HWND window);
+    static void FillLists(HWND window);
     void DrawCategory(const DRAWITEMSTRUCT& row, const CategoryEntry& category) const;
     void OnButton(HWND window, UINT id);
-    void OnPathChanged(HWND window) const;
+    static void OnPathChanged(HWND window);
 
     void ChangeFilter(HWND window);
     void ShowFilter(HWND window, int position);
-    void RenameFilter(HWND window) const;
+    static void RenameFilter(HWND window);
 
     int shownFilter_ = 0; // The position of the filter that the controls show.
 };

@@ -56,11 +56,8 @@ void FolderList::Place(const ControlPlace& place) const {
 }
 
 void FolderList::Fill(std::span<const WideString> paths) {
-    // Drawn once, not for each row.
-    SendMessage(list_, WM_SETREDRAW, FALSE, 0);
     for (const WideString& path : paths)
         Append(path);
-    SendMessage(list_, WM_SETREDRAW, TRUE, 0);
     OnRowsChanged();
 }
 

@@ -13,7 +13,7 @@
 #include "ui/colour_box.h"
 #include "ui/colour_picker.h"
 #include "ui/controls.h"
-#include "ui/modal_loop.h"
+#include "ui/template_dialog.h"
 
 namespace {
 constexpr LONG kBold = 700;
@@ -46,19 +46,19 @@ constexpr TextOfControl kTexts[] = {
     {IDC_FONT_SET_COLOUR, IDS_FONT_STYLE_SET},
 };
 
-class FontStyleDialog final : private ModalLoop {
+class FontStyleDialog final : private TemplateDialog {
   public:
     FontStyleDialog(LOGFONT& font, COLORREF& colour) : font_(font), colour_(colour) {}
-    void Run(HWND owner);
+    void Run(HWND owner) { RunTemplate(owner, IDD_FONT_STYLE, IDS_FONT_STYLE_TITLE); }
 
   private:
-    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
-    void OnInit(HWND dialog);
+    void OnInit(HWND dialog) override;
+    void Layout(HWND dialog) override;
+    void OnCommand(HWND dialog, UINT id) override;
+    bool OnPaint(HWND dialog) override;
+    void OnDestroy() override;
     void CreateBar(HWND dialog);
     void LoadValues(HWND dialog) const;
-    void OnCommand(HWND dialog, UINT id);
-    void OnPaint(HWND dialog) const;
     void TakeStyle(HWND dialog) const;
     void SetColour(HWND dialog);
 
@@ -79,7 +79,7 @@ RECT SwatchPlace(HWND dialog) {
     return {left, top, left + Scale(kSwatchWidth), top + ScaleY(kRowHeight)};
 }
 
-void LayOut(HWND dialog) {
+void FontStyleDialog::Layout(HWND dialog) {
     constexpr int kListFromRight = 135;
     constexpr int kListWidth = 125;
     constexpr int kListDropHeight = 100;
@@ -107,16 +107,10 @@ void LayOut(HWND dialog) {
     InvalidateRect(dialog, nullptr, TRUE);
 }
 
-void FontStyleDialog::Run(HWND owner) {
-    RunDialog(owner, IDD_FONT_STYLE, DialogProc, reinterpret_cast<LPARAM>(this));
-}
-
 void FontStyleDialog::OnInit(HWND dialog) {
-    FillScreen(dialog, LanguageText(IDS_FONT_STYLE_TITLE).CStr());
     CreateBar(dialog);
     for (const TextOfControl& entry : kTexts)
         SetDlgItemText(dialog, static_cast<int>(entry.control), LanguageText(entry.text).CStr());
-    LayOut(dialog);
     LoadValues(dialog);
 }
 
@@ -177,48 +171,19 @@ void FontStyleDialog::OnCommand(HWND dialog, UINT id) {
     }
 }
 
-void FontStyleDialog::OnPaint(HWND dialog) const {
+bool FontStyleDialog::OnPaint(HWND dialog) {
     PAINTSTRUCT paint;
     HDC dc = BeginPaint(dialog, &paint);
     FillRect(dc, &paint.rcPaint, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     DrawColourBox(dc, SwatchPlace(dialog), colour_, application.normalFont);
     EndPaint(dialog, &paint);
+    return true;
 }
 
-INT_PTR FontStyleDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
-    switch (message) {
-    case WM_INITDIALOG:
-        OnInit(dialog);
-        return FALSE; // The loop gives the focus.
-    case WM_SIZE:
-        LayOut(dialog);
-        return TRUE;
-    case WM_COMMAND:
-        OnCommand(dialog, LOWORD(wParam));
-        return TRUE;
-    case WM_PAINT:
-        OnPaint(dialog);
-        return TRUE;
-    case WM_CTLCOLORDLG:
-    case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORBTN:
-        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
-    case WM_DESTROY:
-        if (bar_) DestroyWindow(bar_);
-        bar_ = nullptr;
-        barImages_.Reset();
-        OnDestroyed();
-        return TRUE;
-    default:
-        return FALSE;
-    }
-}
-
-INT_PTR CALLBACK FontStyleDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
-                                             LPARAM lParam) {
-    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
-    auto* self = reinterpret_cast<FontStyleDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
-    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
+void FontStyleDialog::OnDestroy() {
+    if (bar_) DestroyWindow(bar_);
+    bar_ = nullptr;
+    barImages_.Reset();
 }
 } // namespace
 

@@ -83,11 +83,12 @@ uint32_t WithComponent(uint32_t colour, int index, uint32_t value) {
 
 std::optional<uint32_t> ColourFromHtml(std::wstring_view text) {
     if (!text.empty() && text.front() == L'#') text.remove_prefix(1);
-    if (text.size() != 2 * kComponents) return std::nullopt;
+    if (text.size() != size_t{2} * kComponents) return std::nullopt;
     uint32_t colour = 0;
     for (int i = 0; i < kComponents; ++i) {
-        const int high = HexDigit(text[static_cast<size_t>(2 * i)]);
-        const int low = HexDigit(text[static_cast<size_t>(2 * i + 1)]);
+        const int high = HexDigit(text[0]);
+        const int low = HexDigit(text[1]);
+        text.remove_prefix(2);
         if (high < 0 || low < 0) return std::nullopt;
         colour = WithComponent(colour, i, static_cast<uint32_t>(high * 16 + low));
     }

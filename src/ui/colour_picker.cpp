@@ -67,11 +67,11 @@ class ColourPicker final : public ModalWindow {
     void OnPaint(HWND window, HDC dc) override;
 
   private:
-    void CreateValueControls(HWND window);
+    static void CreateValueControls(HWND window);
     void ShowTab(HWND window) const;
-    void LayOutHead(HWND window) const;
+    static void LayOutHead(HWND window);
     void LayOutField(HWND window, int top, int bottom);
-    void LayOutValues(HWND window, int top) const;
+    static void LayOutValues(HWND window, int top);
     void ShowChoice(HWND window, UINT source);
     void OnEdit(HWND window, UINT id, UINT notification);
     void OnValueTyped(HWND window, int component);
@@ -183,7 +183,7 @@ void ColourPicker::Layout(HWND window) {
 }
 
 // The sample's label, and the buttons: beside the sample where there is room, else at the bottom.
-void ColourPicker::LayOutHead(HWND window) const {
+void ColourPicker::LayOutHead(HWND window) {
     constexpr int kButtonWidth = 60;
     constexpr int kWideButtonWidth = 106;
     const SIZE size = ClientSize(window);
@@ -230,7 +230,7 @@ void ColourPicker::LayOutField(HWND window, int top, int bottom) {
     Place(window, kLightness, barLeft, fieldTop, Scale(kLightnessWidth), bottom - fieldTop);
 }
 
-void ColourPicker::LayOutValues(HWND window, int top) const {
+void ColourPicker::LayOutValues(HWND window, int top) {
     constexpr int kLabelWidth = 42;
     constexpr int kEditWidth = 34;
     constexpr int kHtmlWidth = 62;

@@ -1,8 +1,5 @@
 #include "ui/modal_loop.h"
 
-#include <aygshell.h>
-
-#include "shell/services/application.h"
 #include "ui/key_navigation.h"
 
 bool ModalLoop::OnKey(HWND, const MSG&) {
@@ -32,25 +29,6 @@ int ModalLoop::RunOver(HWND owner, HWND window) {
     if (window_) DestroyWindow(window_);
     SetForegroundWindow(owner);
     return answer_;
-}
-
-int ModalLoop::RunDialog(HWND owner, UINT dialogTemplate, DLGPROC procedure, LPARAM parameter) {
-    HRSRC found = FindResource(application.instance, MAKEINTRESOURCE(dialogTemplate), RT_DIALOG);
-    if (!found) return IDCANCEL;
-    // The device makes dialogs from templates in memory only; a loaded resource is its bytes.
-    const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(application.instance, found));
-    return RunOver(
-        owner, CreateDialogIndirectParam(application.instance, form, owner, procedure, parameter));
-}
-
-void ModalLoop::FillScreen(HWND dialog, const wchar_t* title) {
-    SHINITDLGINFO info{SHIDIM_FLAGS, dialog,
-                       SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN};
-    SHInitDialog(&info);
-    SetWindowText(dialog, title);
-    for (HWND control = GetWindow(dialog, GW_CHILD); control;
-         control = GetWindow(control, GW_HWNDNEXT))
-        SendMessage(control, WM_SETFONT, reinterpret_cast<WPARAM>(application.normalFont), FALSE);
 }
 
 bool ModalLoop::TranslateKey(const MSG& message) {

@@ -16,12 +16,6 @@ class ModalLoop {
     // Finish was given; IDCANCEL for a null window and for one that goes another way.
     int RunOver(HWND owner, HWND window);
 
-    // The same with a dialog of the program's own resources. Its WM_INITDIALOG has the parameter.
-    int RunDialog(HWND owner, UINT dialogTemplate, DLGPROC procedure, LPARAM parameter);
-    // For WM_INITDIALOG: spreads a dialog over the screen, with the navigation bar's ok button and
-    // without the input panel, its controls in the program's font.
-    static void FillScreen(HWND dialog, const wchar_t* title);
-
     // Ends RunOver with the given answer as soon as the current message is done.
     void Finish(int answer);
 
