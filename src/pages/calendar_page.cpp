@@ -241,6 +241,8 @@ void CalendarPage::CreateControls(HWND window) {
 void CalendarPage::ShowTab(HWND window, int showCommand) {
     const int tab = CurrentTab();
     if (tab < 0 || tab >= GetTabCount()) return;
+    const UINT firstId = kTabs[static_cast<size_t>(tab)].firstId;
+    if (showCommand != SW_HIDE) optionLists_.Enter(window, firstId);
     if (tab == kWeatherTab && showCommand != SW_HIDE) {
         const bool hasWeather = HasWeather();
         ShowControlRange(window, hasWeather ? kWeatherLayoutLabel : kWeatherNotice,
@@ -248,7 +250,7 @@ void CalendarPage::ShowTab(HWND window, int showCommand) {
     } else {
         FormPage::ShowTab(window, showCommand);
     }
-    if (showCommand == SW_HIDE) optionLists_.Leave(window, kTabs[static_cast<size_t>(tab)].firstId);
+    if (showCommand == SW_HIDE) optionLists_.Leave(window, firstId);
     InvalidateRect(window, nullptr, TRUE);
     if (showCommand != SW_HIDE) UpdateWindow(window);
 }
