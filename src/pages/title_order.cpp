@@ -46,11 +46,10 @@ void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
     const UINT buttons[] = {IDS_MOVE_UP, IDS_MOVE_DOWN};
     for (UINT i = 0; i < std::size(buttons); ++i) {
         const int y = top + static_cast<int>(i) * kButtonPitch;
-        CreateControl(page, L"BUTTON", LanguageText(buttons[i]).CStr(), WS_TABSTOP, firstId + 1 + i,
-                      {Scale(kButtonLeft), ScaleY(y), Scale(kButtonWidth), ScaleY(kButtonHeight)},
-                      font);
+        CreateHiddenControl(
+            page, L"BUTTON", LanguageText(buttons[i]).CStr(), WS_TABSTOP, firstId + 1 + i,
+            {Scale(kButtonLeft), ScaleY(y), Scale(kButtonWidth), ScaleY(kButtonHeight)}, font);
     }
-    ShowControlRange(page, firstId, firstId + kTitleOrderIds - 1, SW_HIDE);
 }
 
 bool OnTitleOrderButton(HWND page, UINT firstId, UINT id) {
