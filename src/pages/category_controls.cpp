@@ -87,9 +87,7 @@ ControlPlace PlaceOf(const Spot& spot, SIZE room) {
 // Rows that the page draws need a list that asks for their height when it is made.
 void PrepareOwnerDrawn(HWND list) {
     SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
-    LVCOLUMN column{};
-    column.mask = LVCF_WIDTH;
-    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+    AddColumn(list);
 }
 } // namespace
 
