@@ -8,6 +8,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/file_dialog.h"
+#include "ui/tab_strip.h"
 
 namespace {
 // Control ids; those of the option lists stand in calendar_options.h.
@@ -47,7 +48,6 @@ constexpr int kWeatherTab = 7;
 
 constexpr int kTop = 8;
 constexpr int kMargin = 10;
-constexpr int kTabStripHeight = 22;
 
 constexpr FormTab kTabs[] = {
     {IDS_TAB_GENERAL, kDaysLabel, kSortTasks},

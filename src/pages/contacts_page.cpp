@@ -163,9 +163,7 @@ void ContactsPage::LoadCustomRow(HWND window, const FormRow& row) {
         alphabets_.Fill();
         return;
     }
-    searchBar_.Fill(GetDlgItem(window, static_cast<int>(row.id)),
-                    {settingsStore.CntctsActiveSearchBar.value,
-                     settingsStore.ContactsCustomSearchBarSelected.value});
+    searchBar_.Fill(Item(window, row.id));
 }
 
 void ContactsPage::SaveCustomRow(HWND, const FormRow& row) {
@@ -173,9 +171,7 @@ void ContactsPage::SaveCustomRow(HWND, const FormRow& row) {
         alphabets_.Save();
         return;
     }
-    const SearchBarChoice choice = searchBar_.Choice();
-    settingsStore.CntctsActiveSearchBar.Set(choice.active);
-    settingsStore.ContactsCustomSearchBarSelected.Set(choice.custom.CStr());
+    searchBar_.Save();
 }
 
 LRESULT ContactsPage::OnNotify(HWND, UINT, WPARAM, NMHDR* header) {
