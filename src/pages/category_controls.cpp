@@ -42,7 +42,7 @@ constexpr PageControl kControls[] = {
      IDS_CATEGORY_COLOUR,
      {-117, -28, 111, 22},
      {-117, -28, 111, 22}},
-    {kFilterLabel, L"STATIC", SS_LEFT, IDS_FILTER, {6, 9, 36, 16}, {6, 9, 36, 16}},
+    {kFilterLabel, L"STATIC", SS_LEFT, IDS_FILTER, {6, 9, 38, 16}, {6, 9, 38, 16}},
     {kFilter, L"COMBOBOX", kComboStyle, 0, {44, 6, -84, 140}, {44, 6, 128, 140}},
     {kRename, L"BUTTON", WS_TABSTOP, IDS_FILTER_RENAME, {-78, 6, 72, 20}, {44, 30, 128, 20}},
     {kVisible, L"BUTTON", kCheckStyle, IDS_FILTER_VISIBLE, {6, 32, -6, 20}, {6, 54, 166, 20}},

@@ -73,9 +73,10 @@ class LanguageDrawings : public LanguageLibrary {
 
 TEST_P(LanguageDrawings, FitTheirRooms) {
     for (const Room& room : kRooms) {
-        SCOPED_TRACE(room.place);
+        Misfits misfits;
         for (const UINT id : room.ids)
-            ExpectToFit(font_.Get(), Text(id), {room.width, room.lines * kLineHeight});
+            CheckText(font_.Get(), Text(id), {room.width, room.lines * kLineHeight}, misfits);
+        EXPECT_EQ(misfits, Misfits()) << room.place;
     }
     const std::wstring format = Text(IDS_CALENDAR_FORMAT);
     for (const UINT id : {IDS_CALENDAR_FORMAT_COLUMN, IDS_CALENDAR_FORMAT_NO_COLUMN})
@@ -87,6 +88,7 @@ TEST_P(LanguageDrawings, FitTheirRooms) {
 TEST_P(LanguageDrawings, DescribeFontsAndColours) {
     const int heading =
         std::max(Width(Text(IDS_FONTS_HEADER_FONT)), Width(Text(IDS_FONTS_HEADER_COLOUR)));
+    Misfits misfits;
     int fonts = 0;
     int colours = 0;
     for (const TextName& text : kTexts) {
@@ -98,9 +100,10 @@ TEST_P(LanguageDrawings, DescribeFontsAndColours) {
             EXPECT_LE(heading + Width(Text(text.id)), 220) << name;
         } else if (name.starts_with("IDS_COLOUR_") && isAbout) {
             ++colours;
-            ExpectToFit(font_.Get(), Text(text.id), {220, 3 * kLineHeight});
+            CheckText(font_.Get(), Text(text.id), {220, 3 * kLineHeight}, misfits);
         }
     }
+    EXPECT_EQ(misfits, Misfits());
     EXPECT_EQ(fonts, 33);
     EXPECT_EQ(colours, 16);
 }

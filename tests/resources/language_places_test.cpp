@@ -52,21 +52,13 @@ class LanguagePlaces : public RegistryFixture, public testing::WithParamInterfac
     HWND window_ = nullptr;
 };
 
-// Whether a control's text may come and go with the row that is selected.
-BOOL WINAPI FollowsSelection(HWND control) {
-    wchar_t className[64];
-    GetClassName(control, className, 64);
-    return IsWindowVisible(control) && lstrcmpi(className, WC_LISTVIEW) != 0 &&
-           lstrcmpi(className, WC_TABCONTROL) != 0;
-}
-
 // Selects each row of each list that is shown, which may show more below or above it.
-void ExpectRowsToFit(HWND page) {
+void CheckEachRow(HWND page, Misfits& misfits) {
     for (HWND list = FindWindowEx(page, nullptr, WC_LISTVIEW, nullptr); list;
          list = FindWindowEx(page, list, WC_LISTVIEW, nullptr)) {
         for (int row = 0; IsWindowVisible(list) && row < RowCount(list); ++row) {
             SelectRow(list, row);
-            ExpectTextsToFit(page, FollowsSelection);
+            CheckControls(page, misfits, IsWindowVisible);
         }
     }
 }
@@ -76,19 +68,20 @@ TEST_P(LanguagePlaces, HoldTheTextsOfPages) {
     constexpr int kFontPerItem = 1204; // Names a tab anew.
     constexpr int kFontFace = 1206;    // Lists the device's own names.
     for (int row = 0; row < kPageCount; ++row) {
-        SCOPED_TRACE(Narrow(LanguageText(PageCaption(row)).CStr()));
+        Misfits misfits;
         const std::unique_ptr<SettingsPage> page(CreatePage(window_, row));
         ASSERT_TRUE(page && page->hwnd);
         if (row == kFontsRow) SendDlgItemMessage(page->hwnd, kFontFace, CB_RESETCONTENT, 0, 0);
-        ExpectTextsToFit(page->hwnd);
+        CheckControls(page->hwnd, misfits);
         for (int tab = 0; tab < page->GetTabCount(); ++tab) {
             SendMessage(page->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
-            ExpectRowsToFit(page->hwnd);
+            CheckEachRow(page->hwnd, misfits);
         }
         if (row == kFontsRow) {
             Tap(page->hwnd, kFontPerItem);
-            ExpectTextsToFit(page->hwnd);
+            CheckControls(page->hwnd, misfits);
         }
+        EXPECT_EQ(misfits, Misfits()) << Narrow(LanguageText(PageCaption(row)).CStr());
         ClosePage(*page);
     }
 }
@@ -136,14 +129,13 @@ const Dialog kDialogs[] = {
 
 TEST_P(LanguagePlaces, HoldTheTextsOfDialogs) {
     for (const Dialog& dialog : kDialogs) {
-        SCOPED_TRACE(&dialog - kDialogs);
-        bool measured = false;
+        Misfits misfits{"not opened"};
         const DialogSteps steps(dialog.className, {[&](HWND window) {
-                                    ExpectTextsToFit(window);
-                                    measured = true;
+                                    misfits.clear();
+                                    CheckControls(window, misfits);
                                 }});
         dialog.open(window_);
-        EXPECT_TRUE(measured);
+        EXPECT_EQ(misfits, Misfits()) << &dialog - kDialogs;
     }
 }
 
@@ -153,8 +145,10 @@ TEST_P(LanguagePlaces, HoldTheNamesOfPages) {
     const auto spacing = static_cast<DWORD>(SendMessage(list, LVM_GETITEMSPACING, FALSE, 0));
     const SIZE room{LOWORD(spacing) - Scale(12), 2 * Scale(14)};
     ASSERT_EQ(RowCount(list), kPageCount);
+    Misfits misfits;
     for (int row = 0; row < kPageCount; ++row)
-        ExpectToFit(application.boldFont, LanguageText(PageCaption(row)).CStr(), room);
+        CheckText(application.boldFont, LanguageText(PageCaption(row)).CStr(), room, misfits);
+    EXPECT_EQ(misfits, Misfits());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, LanguagePlaces, testing::ValuesIn(kLanguages),

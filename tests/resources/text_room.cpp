@@ -8,7 +8,6 @@
 #include "shell/services/handles.h"
 #include "shell/services/scaling.h"
 #include "tests/resources/language_library.h"
-#include "tests/support/dialog_steps.h"
 #include "tests/support/window_support.h"
 #include "ui/controls.h"
 #include "ui/list_items.h"
@@ -22,6 +21,8 @@ constexpr int kEntryMargins = 8; // Of a drop-down list, beside its arrow.
 constexpr int kRowMargins = 12;
 constexpr int kPageEdge = 2; // Before a label that begins at the very edge of its page.
 
+constexpr LONG kUnbounded = 0x7FFF;
+
 HFONT FontOf(HWND control) {
     return reinterpret_cast<HFONT>(SendMessage(control, WM_GETFONT, 0, 0));
 }
@@ -32,39 +33,42 @@ bool IsOfClass(HWND control, const wchar_t* name) {
     return lstrcmpi(className, name) == 0;
 }
 
-void ExpectLineToFit(HWND control, const std::wstring& line, int width) {
-    EXPECT_LE(WrappedSize(FontOf(control), line, 0x7FFF).cx, width)
-        << GetDlgCtrlID(control) << ": " << Narrow(line);
+void Report(const std::wstring& text, const SIZE& size, const SIZE& room, Misfits& misfits) {
+    misfits.insert(Narrow(text) + ": " + std::to_string(size.cx) + " x " + std::to_string(size.cy) +
+                   " in " + std::to_string(room.cx) + " x " + std::to_string(room.cy));
 }
 
-void ExpectLabelToFit(HWND label) {
+// A text that its control does not wrap.
+void CheckLine(HWND control, const std::wstring& line, LONG width, Misfits& misfits) {
+    const SIZE size = WrappedSize(FontOf(control), line, kUnbounded);
+    if (size.cx > width) Report(line, size, {width, size.cy}, misfits);
+}
+
+void CheckLabel(HWND label, Misfits& misfits) {
     SIZE room = ClientSize(label);
-    RECT place;
-    GetWindowRect(label, &place);
-    POINT start{place.left, place.top};
-    ScreenToClient(GetParent(label), &start);
+    POINT start{};
+    MapWindowPoints(label, GetParent(label), &start, 1);
     if (start.x == 0) room.cx -= Scale(kPageEdge);
-    ExpectToFit(FontOf(label), TextOf(label), room);
+    CheckText(FontOf(label), TextOf(label), room, misfits);
 }
 
-void ExpectButtonToFit(HWND button) {
+void CheckButton(HWND button, Misfits& misfits) {
     const LONG style = GetWindowLong(button, GWL_STYLE);
     const bool isBox = (style & BS_TYPEMASK) == BS_AUTOCHECKBOX;
     const int margins = Scale(isBox ? kBoxAndGap : kPushButton);
-    ExpectLineToFit(button, TextOf(button), ClientSize(button).cx - margins);
+    CheckLine(button, TextOf(button), ClientSize(button).cx - margins, misfits);
 }
 
-void ExpectEntriesToFit(HWND combo) {
-    const int room = ClientSize(combo).cx - GetSystemMetrics(SM_CXVSCROLL) - Scale(kEntryMargins);
+void CheckEntries(HWND combo, Misfits& misfits) {
+    const LONG room = ClientSize(combo).cx - GetSystemMetrics(SM_CXVSCROLL) - Scale(kEntryMargins);
     const std::wstring entries = EntriesOf(combo) + L"|";
     for (size_t start = 0, end; (end = entries.find(L'|', start)) != std::wstring::npos;
          start = end + 1)
-        ExpectLineToFit(combo, entries.substr(start, end - start), room);
+        CheckLine(combo, entries.substr(start, end - start), room, misfits);
 }
 
-void ExpectRowsToFit(HWND list) {
-    const int room =
-        static_cast<int>(SendMessage(list, LVM_GETCOLUMNWIDTH, 0, 0)) - Scale(kRowMargins);
+void CheckRows(HWND list, Misfits& misfits) {
+    const auto column = static_cast<LONG>(SendMessage(list, LVM_GETCOLUMNWIDTH, 0, 0));
     wchar_t text[512];
     for (int row = 0; row < RowCount(list); ++row) {
         LVITEM item{};
@@ -72,16 +76,17 @@ void ExpectRowsToFit(HWND list) {
         item.cchTextMax = 512;
         SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row),
                     reinterpret_cast<LPARAM>(&item));
-        ExpectLineToFit(list, text, room);
+        CheckLine(list, text, column - Scale(kRowMargins), misfits);
     }
 }
 
-void ExpectTabsToFit(HWND strip) {
+void CheckTabs(HWND strip, Misfits& misfits) {
     const LRESULT last = SendMessage(strip, TCM_GETITEMCOUNT, 0, 0) - 1;
     RECT place{};
     SendMessage(strip, TCM_GETITEMRECT, static_cast<WPARAM>(last),
                 reinterpret_cast<LPARAM>(&place));
-    EXPECT_LE(place.right, ClientSize(strip).cx) << "tabs";
+    const SIZE room = ClientSize(strip);
+    if (place.right > room.cx) Report(L"tabs", {place.right, room.cy}, room, misfits);
 }
 
 } // namespace
@@ -94,25 +99,24 @@ SIZE WrappedSize(HFONT font, const std::wstring& text, LONG width) {
     return {place.right, place.bottom};
 }
 
-void ExpectToFit(HFONT font, const std::wstring& text, const SIZE& room) {
+void CheckText(HFONT font, const std::wstring& text, const SIZE& room, Misfits& misfits) {
     const SIZE size = WrappedSize(font, text, room.cx);
-    EXPECT_LE(size.cx, room.cx) << Narrow(text);
-    EXPECT_LE(size.cy, room.cy) << Narrow(text);
+    if (size.cx > room.cx || size.cy > room.cy) Report(text, size, room, misfits);
 }
 
-void ExpectTextsToFit(HWND window, BOOL(WINAPI* isMeant)(HWND control)) {
+void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND control)) {
     struct Kind {
         const wchar_t* className;
-        void (*expectToFit)(HWND control);
+        void (*check)(HWND control, Misfits& misfits);
     };
-    constexpr Kind kKinds[] = {{L"Static", ExpectLabelToFit},
-                               {L"Button", ExpectButtonToFit},
-                               {L"ComboBox", ExpectEntriesToFit},
-                               {WC_LISTVIEW, ExpectRowsToFit},
-                               {WC_TABCONTROL, ExpectTabsToFit}};
+    constexpr Kind kKinds[] = {{L"Static", CheckLabel},
+                               {L"Button", CheckButton},
+                               {L"ComboBox", CheckEntries},
+                               {WC_LISTVIEW, CheckRows},
+                               {WC_TABCONTROL, CheckTabs}};
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         for (const Kind& kind : kKinds) {
-            if (isMeant(child) && IsOfClass(child, kind.className)) kind.expectToFit(child);
+            if (isMeant(child) && IsOfClass(child, kind.className)) kind.check(child, misfits);
         }
     }
 }

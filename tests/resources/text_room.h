@@ -2,17 +2,21 @@
 
 #include <windows.h>
 
+#include <set>
 #include <string>
 
-// The size of a text that is wrapped to a width, in pixels.
+// What does not fit, each once, with the room that it has; in pixels.
+using Misfits = std::set<std::string>;
+
+// The size of a text that is wrapped to a width.
 SIZE WrappedSize(HFONT font, const std::wstring& text, LONG width);
-// Expects a text wrapped to a room's width to lie within it; in pixels.
-void ExpectToFit(HFONT font, const std::wstring& text, const SIZE& room);
+// Whether a text wrapped to a room's width lies within it.
+void CheckText(HFONT font, const std::wstring& text, const SIZE& room, Misfits& misfits);
 
 inline BOOL WINAPI IsAny(HWND) {
     return TRUE;
 }
 
-// Expects the texts of a window's controls, or of some, to lie within them: labels, buttons, boxes,
+// Whether the texts of a window's controls, or of some, lie within them: labels, buttons, boxes,
 // the entries of drop-down lists, the rows of lists, the captions of tabs.
-void ExpectTextsToFit(HWND window, BOOL(WINAPI* isMeant)(HWND control) = IsAny);
+void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND control) = IsAny);
