@@ -171,7 +171,7 @@ def header_faults(image, is_library):
     expected = {
         "machine": (image.machine, MACHINE_ARM),
         "magic number": (image.field(0, "<H"), 0x10B),
-        "image base": (image.base, 0x10000),
+        "image base": (image.base, 0x10000000 if is_library else 0x10000),
         "section alignment": (image.field(32), 0x1000),
         "file alignment": (image.field(36), 0x200),
         "subsystem version": (struct.unpack_from("<HH", image.content, image.optional + 48), (4, 20)),
