@@ -86,7 +86,8 @@ void CheckTabs(HWND strip, Misfits& misfits) {
     SendMessage(strip, TCM_GETITEMRECT, static_cast<WPARAM>(last),
                 reinterpret_cast<LPARAM>(&place));
     const SIZE room = ClientSize(strip);
-    if (place.right > room.cx) Report(L"tabs", {place.right, room.cy}, room, misfits);
+    const bool hasArrows = FindWindowEx(strip, nullptr, UPDOWN_CLASS, nullptr) != nullptr;
+    if (hasArrows || place.right > room.cx) Report(L"tabs", {place.right, room.cy}, room, misfits);
 }
 
 } // namespace
