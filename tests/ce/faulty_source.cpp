@@ -14,6 +14,9 @@ int EachFont(const LOGFONT*, const TEXTMETRIC*, DWORD, LPARAM) {
 int CALLBACK Order(LPARAM, LPARAM, LPARAM) {
     return 0;
 }
+int CALLBACK EachOfFive(LPARAM, LPARAM, LPARAM, LPARAM, int fifth) {
+    return fifth;
+}
 } // namespace
 
 void HandOver(HDC dc, HWND list, wchar_t* text) {

@@ -1,4 +1,5 @@
 # The cabinet that a device installs the program from.
+find_program(GCAB gcab REQUIRED)
 set(package ${CMAKE_BINARY_DIR}/OrvaneOptions.cab)
 set(package_folder ${CMAKE_BINARY_DIR}/device)
 get_property(libraries GLOBAL PROPERTY resource_libraries)
