@@ -71,6 +71,16 @@ constexpr PageControl kControls[] = {
 constexpr Spot kMembersUpright{6, 128, -6, -6};
 constexpr Spot kMembersWide{178, 6, -6, -6};
 
+// A square screen is upright, but low: the list has its buttons at its side.
+constexpr struct {
+    UINT id;
+    Spot spot;
+} kSquare[] = {
+    {kTickAll, {-87, 102, 81, 20}},
+    {kTickNone, {-87, 126, 81, 20}},
+    {kMembers, {6, 102, -93, -6}},
+};
+
 // Of a row with a tick, in units: what a finger needs.
 constexpr int kMemberHeight = 21;
 
@@ -102,7 +112,9 @@ void CreateCategoryControls(HWND page, HFONT font) {
 
 void PlaceCategoryControls(HWND page, SIZE room) {
     // By the screen: the input panel must not make an upright page a wide one.
-    const bool isWide = GetSystemMetrics(SM_CXSCREEN) > GetSystemMetrics(SM_CYSCREEN);
+    const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
+    const int screenHeight = GetSystemMetrics(SM_CYSCREEN);
+    const bool isWide = screenWidth > screenHeight;
     const auto place = [page, room](UINT id, const Spot& spot) {
         const ControlPlace to = PlaceOf(spot, room);
         MoveWindow(Item(page, id), to.x, to.y, to.width, to.height, TRUE);
@@ -110,6 +122,10 @@ void PlaceCategoryControls(HWND page, SIZE room) {
     for (const PageControl& control : kControls)
         place(control.id, isWide ? control.wide : control.upright);
     place(kMembers, isWide ? kMembersWide : kMembersUpright);
+    if (screenWidth == screenHeight) {
+        for (const auto& control : kSquare)
+            place(control.id, control.spot);
+    }
     FitColumn(Item(page, kCategories));
     FitColumn(Item(page, kMembers));
 }

@@ -122,7 +122,7 @@ void FontStyleDialog::CreateBar(HWND dialog) {
     info.hInstRes = application.instance;
     if (!SHCreateMenuBar(&info)) return;
     bar_ = info.hwndMB;
-    barImages_ = LoadImageStrip(IDB_MENU_BAR, Scale(kBarImageSize), kBarImageMask);
+    barImages_ = LoadImageStrip(IDB_MENU_BAR, Scale(kBarImageSize, true), kBarImageMask);
     SendMessage(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(barImages_.Get()));
 }
 

@@ -64,6 +64,19 @@ RECT PlaceOn(HWND window, HWND control) {
     return place;
 }
 
+// The pages in their list, which are to show all at once.
+bool HasIcons(HWND control) {
+    return IsListView(control) && (GetWindowLong(control, GWL_STYLE) & LVS_TYPEMASK) == LVS_ICON;
+}
+
+RECT LastItem(HWND list) {
+    RECT place{}; // LVIR_BOUNDS
+    const LRESULT count = SendMessage(list, LVM_GETITEMCOUNT, 0, 0);
+    SendMessage(list, LVM_GETITEMRECT, static_cast<WPARAM>(count - 1),
+                reinterpret_cast<LPARAM>(&place));
+    return place;
+}
+
 std::string Text(const RECT& rect) {
     char text[64];
     std::snprintf(text, sizeof(text), " (%ld,%ld to %ld,%ld)", rect.left, rect.top, rect.right,
@@ -80,17 +93,18 @@ class ScreenExplorer final : public Explorer {
     void OnSight(HWND window) override {
         TypeSomething(window);
         HWND focus = program_.Focus();
-        std::vector<std::wstring> states;
-        for (HWND control : ChildrenOf(window))
-            states.push_back(StateOf(control));
+        std::vector<std::pair<HWND, std::wstring>> states;
+        for (HWND control : ChildrenOf(window)) {
+            if (IsShown(control)) states.emplace_back(control, StateOf(control));
+        }
         ExpectPlaces(window);
         // Every second sight is first seen on a screen that is turned already.
         std::swap(screen_.cx, screen_.cy);
         program_.SetScreen(screen_);
         ExpectPlaces(window);
         EXPECT_EQ(program_.Focus(), focus) << Place(window);
-        for (size_t i = 0; i < states.size(); ++i)
-            EXPECT_EQ(StateOf(ChildrenOf(window)[i]), states[i]) << Place(window);
+        for (const auto& [control, state] : states)
+            EXPECT_EQ(StateOf(control), state) << Place(window);
     }
 
   private:
@@ -120,6 +134,7 @@ class ScreenExplorer final : public Explorer {
             if (control == StripOf(window)) place.left = 0; // It hides its frame beyond the edge.
             ExpectInside(place, client, name);
             ExpectUsable(control, place, name);
+            if (HasIcons(control)) ExpectInside(LastItem(control), place, "icons of " + name);
             for (const auto& [other, otherPlace] : placed) {
                 RECT common{};
                 EXPECT_FALSE(IntersectRect(&common, &place, &otherPlace))

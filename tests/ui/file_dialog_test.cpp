@@ -31,9 +31,9 @@ class FileDialogTest : public testing::Test {
         for (const wchar_t* file : kFiles)
             CloseHandle(CreateFile(file, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
         SetVgaMode(false); // As at start, by the screen's density.
-        owner_ = CreateWindowEx(0, L"Static", L"Owner", WS_POPUP | WS_VISIBLE, 0, Scale(26),
-                                Scale(240), Scale(268), nullptr, nullptr, application.instance,
-                                nullptr);
+        owner_ =
+            CreateWindowEx(0, L"Static", L"Owner", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
+                           Scale(268), nullptr, nullptr, application.instance, nullptr);
     }
     void TearDown() override {
         DestroyWindow(owner_);
