@@ -6,17 +6,15 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <memory>
 #include <string>
 
-#include "files/category_store.h"
 #include "pages/add_plugin_dialog.h"
 #include "pages/font_style_dialog.h"
 #include "shell/about_window.h"
 #include "shell/main_window.h"
-#include "shell/page_factory.h"
 #include "shell/services/application.h"
+#include "tests/endurance/environment.h"
+#include "tests/endurance/page_visit.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/resource_count.h"
@@ -26,7 +24,6 @@
 #include "ui/filter_name_dialog.h"
 #include "ui/folder_dialog.h"
 #include "ui/image_picker.h"
-#include "ui/list_items.h"
 
 namespace {
 
@@ -86,25 +83,6 @@ constexpr int kDialogCount = static_cast<int>(std::size(kDialogs));
 // and the platform's caches.
 constexpr size_t kMemoryToSettle = 512 * 1024;
 
-struct Held {
-    size_t gdiObjects = CountGdiObjects();
-    size_t userHandle = HighestUserHandle();
-    size_t handle = LowestFreeHandle();
-    size_t heapBytes = HeapBytes();
-    size_t memory = PrivateMemory();
-};
-
-// Selects each row of each list that is shown, which may show more below or above it.
-void SelectEachRow(HWND parent) {
-    for (HWND list = FindWindowEx(parent, nullptr, WC_LISTVIEW, nullptr); list;
-         list = FindWindowEx(parent, list, WC_LISTVIEW, nullptr)) {
-        for (int row = 0; IsWindowVisible(list) && row < RowCount(list); ++row) {
-            SelectRow(list, row);
-            PumpMessages();
-        }
-    }
-}
-
 // The pages by their numbers, the dialogs behind them.
 class LeaksTest : public RegistryFixture, public testing::WithParamInterface<int> {
   protected:
@@ -122,19 +100,6 @@ class LeaksTest : public RegistryFixture, public testing::WithParamInterface<int
         PumpMessages();
         UnregisterClass(kMainWindowClass, application.instance);
         RegistryFixture::TearDown();
-    }
-
-    // As a visitor does: every tab and every option, and back.
-    void VisitPage() const {
-        const std::unique_ptr<SettingsPage> page(CreatePage(window_, GetParam()));
-        ASSERT_TRUE(page && page->hwnd);
-        for (int tab = 0; tab < page->GetTabCount(); ++tab) {
-            SendMessage(page->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
-            PumpMessages();
-            SelectEachRow(page->hwnd);
-        }
-        ClosePage(*page);
-        PumpMessages();
     }
 
     // Confirmed and cancelled in turns.
@@ -156,7 +121,7 @@ class LeaksTest : public RegistryFixture, public testing::WithParamInterface<int
 
     void Visit(int round) const {
         if (GetParam() < kPageCount)
-            VisitPage();
+            VisitPage(window_, GetParam());
         else
             VisitDialog(round);
     }
@@ -165,14 +130,13 @@ class LeaksTest : public RegistryFixture, public testing::WithParamInterface<int
 };
 
 TEST_P(LeaksTest, LeavesNothingBehind) {
-    const char* wanted = std::getenv("OV_ROUNDS");
-    const int rounds = wanted != nullptr ? std::atoi(wanted) : 6;
+    const int rounds = NumberFrom("OV_ROUNDS", 6);
     for (int round = 0; round < 3; ++round)
         Visit(round); // What is made once stays.
-    const Held before;
+    const HeldResources before;
     for (int round = 0; round < rounds; ++round)
         Visit(round);
-    const Held after;
+    const HeldResources after;
     // What other programs of the device do now and then is less than a leak at each visit.
     const auto leak = static_cast<size_t>(rounds);
     EXPECT_LT(after.gdiObjects, before.gdiObjects + leak);

@@ -18,22 +18,6 @@ namespace {
 
 class SettingTables : public StoreFixture {};
 
-struct ValueNames {
-    std::vector<std::wstring> operator()(const FontRow& row) const {
-        std::vector<std::wstring> names;
-        for (const wchar_t* suffix :
-             {L"lfWeight", L"lfItalic", L"lfUnderline", L"lfStrikeOut", L"lfHeight", L"lfColor"}) {
-            names.push_back(std::wstring(row.name) + suffix);
-        }
-        return names;
-    }
-    std::vector<std::wstring> operator()(const auto& row) const { return {row.name}; }
-};
-
-std::vector<std::wstring> NamesOf(const SettingRow& row) {
-    return std::visit(ValueNames{}, row.what);
-}
-
 TEST_F(SettingTables, ValueNamesAreUniqueInTheirKey) {
     std::set<std::pair<SettingGroup, std::wstring>> seen;
     ForEachRow([&](const SettingTable& table, const SettingRow& row) {

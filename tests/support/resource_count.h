@@ -73,3 +73,11 @@ inline size_t PrivateMemory() {
     GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
     return counters.PagefileUsage;
 }
+
+struct HeldResources {
+    size_t gdiObjects = CountGdiObjects();
+    size_t userHandle = HighestUserHandle();
+    size_t handle = LowestFreeHandle();
+    size_t heapBytes = HeapBytes();
+    size_t memory = PrivateMemory();
+};
