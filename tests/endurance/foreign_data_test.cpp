@@ -45,6 +45,11 @@ bool IsRepaired(const std::wstring& name) {
     return name.starts_with(L"CalTitlesOrder") || name == L"dNumOfDays" ||
            name == L"TimelinesLength" || name == L"ActiveTab";
 }
+// And what it repairs when it is saved.
+bool IsRepairedBySaving(const std::wstring& name) {
+    return name == L"dHeightLimitLandscape" || name == L"PinnedMonthlyClr" ||
+           name.ends_with(L"TabOrder");
+}
 
 // A value's place, as the registry compares it.
 std::wstring PlaceOf(HKEY root, std::wstring path) {
@@ -172,6 +177,33 @@ void ExpectRepaired(const SettingsStore& store) {
     EXPECT_EQ(titles, (std::set<uint32_t>{0, 1, 2, 3, 4, 5}));
 }
 
+void LoadAndSave() {
+    SettingsStore store;
+    HMODULE library = nullptr;
+    store.Load(library);
+    store.Save();
+    FreeLibrary(library);
+}
+
+// A save leaves alone what the user did not change, and repairs what is to be repaired at once.
+void ExpectSavedAsItIs() {
+    const RegistryTree before = AllValues();
+    LoadAndSave();
+    RegistryTree after = AllValues();
+    ForEachRow([&](const SettingTable& table, const SettingRow& row) {
+        const GroupKey key = KeyOfGroup(table.group);
+        for (const std::wstring& name : NamesOf(row)) {
+            const std::wstring place = PlaceOf(key.root, key.path + (L"\\" + name));
+            if (IsRepaired(name) || IsRepairedBySaving(name) || !before.contains(place)) continue;
+            EXPECT_EQ(after[place], before.at(place)) << name;
+        }
+    });
+    LoadAndSave();
+    const RegistryTree settled = AllValues();
+    LoadAndSave();
+    EXPECT_EQ(AllValues(), settled);
+}
+
 TEST_F(ForeignData, IsLoadedShownAndKept) {
     const int first = NumberFrom("OV_SEED", 1);
     const int rounds = NumberFrom("OV_ROUNDS", 2);
@@ -193,6 +225,7 @@ TEST_F(ForeignData, IsLoadedShownAndKept) {
             std::visit(ExpectLoaded{settingsStore, KeyOfGroup(table.group), planted}, row.what);
         });
         ExpectRepaired(settingsStore);
+        ExpectSavedAsItIs();
         const MessageBoxAnswer answer(IDOK);
         for (int page = 0; page < kPageCount; ++page)
             VisitPage(window, page);

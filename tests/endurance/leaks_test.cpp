@@ -88,9 +88,7 @@ class LeaksTest : public RegistryFixture, public testing::WithParamInterface<int
   protected:
     void SetUp() override {
         RegistryFixture::SetUp();
-        for (const wchar_t* plugin : {L"Weather", L"Traffic"})
-            SetNumber(HKEY_LOCAL_MACHINE,
-                      std::wstring(L"Software\\Microsoft\\Today\\Items\\") + plugin, L"Type", 4);
+        AddTodayPlugins();
         application.instance = GetModuleHandle(nullptr);
         window_ = CreateMainWindow(application.instance);
         ASSERT_NE(window_, nullptr);

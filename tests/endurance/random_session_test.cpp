@@ -90,9 +90,7 @@ class RandomSession : public RegistryFixture {
   protected:
     void SetUp() override {
         RegistryFixture::SetUp();
-        for (const wchar_t* plugin : {L"Weather", L"Traffic"})
-            SetNumber(HKEY_LOCAL_MACHINE,
-                      std::wstring(L"Software\\Microsoft\\Today\\Items\\") + plugin, L"Type", 4);
+        AddTodayPlugins();
         application.instance = GetModuleHandle(nullptr);
         // The toolchain's library keeps a reserve from each loading of a DLL that it is part of.
         imaging_.Reset(LoadLibrary(L"imaging.dll"));
