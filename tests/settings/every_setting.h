@@ -2,6 +2,7 @@
 
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "settings/setting_table.h"
 
@@ -13,6 +14,29 @@ void ForEachRow(Visit visit) {
         for (const SettingRow& row : table->rows)
             visit(*table, row);
     }
+}
+
+struct ValueNames {
+    std::vector<std::wstring> operator()(const FontRow& row) const {
+        std::vector<std::wstring> names;
+        for (const wchar_t* suffix :
+             {L"lfWeight", L"lfItalic", L"lfUnderline", L"lfStrikeOut", L"lfHeight", L"lfColor"}) {
+            names.push_back(std::wstring(row.name) + suffix);
+        }
+        return names;
+    }
+    std::vector<std::wstring> operator()(const auto& row) const { return {row.name}; }
+};
+
+// The names of a row's values: six of a font, else one.
+inline std::vector<std::wstring> NamesOf(const SettingRow& row) {
+    return std::visit(ValueNames{}, row.what);
+}
+
+// The dashboard's tab follows from other settings at each load, whatever was saved.
+inline bool IsChosenAtLoad(const SettingRow& row) {
+    const auto* number = std::get_if<DwordRow>(&row.what);
+    return number && number->member == &SettingsStore::ActiveTab;
 }
 
 // Sets a row's setting to something that is not its default and that no repair touches, when all

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cwctype>
-#include <random>
 #include <set>
 #include <string>
 #include <vector>
@@ -17,22 +16,6 @@
 namespace {
 
 class SettingTables : public StoreFixture {};
-
-struct ValueNames {
-    std::vector<std::wstring> operator()(const FontRow& row) const {
-        std::vector<std::wstring> names;
-        for (const wchar_t* suffix :
-             {L"lfWeight", L"lfItalic", L"lfUnderline", L"lfStrikeOut", L"lfHeight", L"lfColor"}) {
-            names.push_back(std::wstring(row.name) + suffix);
-        }
-        return names;
-    }
-    std::vector<std::wstring> operator()(const auto& row) const { return {row.name}; }
-};
-
-std::vector<std::wstring> NamesOf(const SettingRow& row) {
-    return std::visit(ValueNames{}, row.what);
-}
 
 TEST_F(SettingTables, ValueNamesAreUniqueInTheirKey) {
     std::set<std::pair<SettingGroup, std::wstring>> seen;
@@ -222,51 +205,6 @@ TEST_F(SettingTables, AKeyThatCannotBeOpenedGivesDefaults) {
             EXPECT_EQ(ShownIn(store, row) == L"4711", at != failing) << NamesOf(row)[0];
         }
         EXPECT_FALSE(store.FontSEGroupingTtls.colour.name.IsEmpty());
-    }
-}
-
-// Whatever stands under the names loads, and what is not repaired is left alone by a save.
-TEST_F(SettingTables, AnyValuesLoadAndStay) {
-    std::mt19937 random(20);
-    for (int round = 0; round < 10; ++round) {
-        ForEachRow([&](const SettingTable& table, const SettingRow& row) {
-            const GroupKey key = KeyOfGroup(table.group);
-            // Elsewhere lies the library that the store loads.
-            if (table.group == SettingGroup::TodayItem) return;
-            for (const std::wstring& name : NamesOf(row)) {
-                BYTE bytes[12];
-                for (BYTE& byte : bytes)
-                    byte = static_cast<BYTE>(random() % 3 == 0 ? 0 : random());
-                constexpr DWORD kTypes[] = {REG_DWORD, REG_SZ,       REG_BINARY,
-                                            REG_NONE,  REG_MULTI_SZ, REG_EXPAND_SZ};
-                SetValue(key.root, key.path, name, kTypes[random() % 6], bytes, random() % 13);
-            }
-        });
-        const auto store = LoadStore();
-        const RegistryTree before = GetTree(HKEY_CURRENT_USER);
-        store->Save();
-        RegistryTree after = GetTree(HKEY_CURRENT_USER);
-        std::set<std::wstring> differing;
-        for (const auto& [path, value] : before) {
-            if (!after.contains(path) || after[path] != value) {
-                differing.insert(path.substr(path.rfind(L'\\') + 1));
-            }
-        }
-        for (const std::wstring& name : differing) {
-            const bool repaired =
-                name == L"dNumOfDays" || name == L"TimelinesLength" || name == L"ActiveTab" ||
-                name == L"dHeightLimitLandscape" || name == L"PinnedMonthlyClr" ||
-                name.starts_with(L"CalTitlesOrder") || name.ends_with(L"TabOrder");
-            EXPECT_TRUE(repaired) << name;
-        }
-        for (const auto& [path, value] : after)
-            EXPECT_TRUE(before.contains(path)) << path;
-        // What was repaired stays as it is from then on.
-        LoadAndSave();
-        LoadAndSave();
-        const RegistryTree settled = GetTree(HKEY_CURRENT_USER);
-        LoadAndSave();
-        EXPECT_EQ(GetTree(HKEY_CURRENT_USER), settled);
     }
 }
 

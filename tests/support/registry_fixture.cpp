@@ -18,6 +18,12 @@ UniqueKey Create(HKEY root, const std::wstring& path) {
     return key;
 }
 
+// Behind a text of a single byte a PC writes a terminator that it has no room for.
+void Resize(std::vector<BYTE>& bytes, DWORD size) {
+    bytes.reserve(size + 2 * sizeof(wchar_t));
+    bytes.resize(size);
+}
+
 std::optional<StoredValue> ReadValue(HKEY root, const std::wstring& path,
                                      const std::wstring& name) {
     const UniqueKey key = Open(root, path);
@@ -27,7 +33,7 @@ std::optional<StoredValue> ReadValue(HKEY root, const std::wstring& path,
         ERROR_SUCCESS) {
         return std::nullopt;
     }
-    value.bytes.resize(size);
+    Resize(value.bytes, size);
     RegQueryValueExW(key.Get(), name.c_str(), nullptr, &value.type, value.bytes.data(), &size);
     return value;
 }
@@ -44,7 +50,7 @@ void AddTree(HKEY key, const std::wstring& path, RegistryTree& tree) {
             break;
         }
         length = kLongestName;
-        value.bytes.resize(size);
+        Resize(value.bytes, size);
         RegEnumValueW(key, index, name.data(), &length, nullptr, &value.type, value.bytes.data(),
                       &size);
         tree[path + name.substr(0, length)] = value;

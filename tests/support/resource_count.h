@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <psapi.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -48,3 +50,34 @@ inline size_t LowestFreeHandle() {
     CloseHandle(event);
     return place;
 }
+
+// Bytes in blocks of all heaps of the process, the platform's own too.
+inline size_t HeapBytes() {
+    HANDLE heaps[64];
+    size_t bytes = 0;
+    const DWORD count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
+    for (DWORD i = 0; i < count; ++i) {
+        PROCESS_HEAP_ENTRY entry{};
+        HeapLock(heaps[i]);
+        while (HeapWalk(heaps[i], &entry)) {
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData + entry.cbOverhead;
+        }
+        HeapUnlock(heaps[i]);
+    }
+    return bytes;
+}
+
+// Bytes of memory that no other process shares.
+inline size_t PrivateMemory() {
+    PROCESS_MEMORY_COUNTERS counters{};
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+    return counters.PagefileUsage;
+}
+
+struct HeldResources {
+    size_t gdiObjects = CountGdiObjects();
+    size_t userHandle = HighestUserHandle();
+    size_t handle = LowestFreeHandle();
+    size_t heapBytes = HeapBytes();
+    size_t memory = PrivateMemory();
+};

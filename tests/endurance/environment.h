@@ -1,0 +1,21 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "tests/support/registry_fixture.h"
+
+// A number of the environment, by which a person makes a test longer or other than usual.
+inline int NumberFrom(const char* variable, int fallback) {
+    const char* text = std::getenv(variable);
+    return text != nullptr ? std::atoi(text) : fallback;
+}
+
+// Two plug-ins of others on the Today screen.
+inline void AddTodayPlugins() {
+    for (const wchar_t* name : {L"Weather", L"Traffic"})
+        SetNumber(HKEY_LOCAL_MACHINE, std::wstring(L"Software\\Microsoft\\Today\\Items\\") + name,
+                  L"Type", 4);
+}
