@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <cwchar>
+#include <memory>
 
 #include "resource_ids.h"
 #include "shell/services/handles.h"
@@ -75,7 +76,8 @@ HIMAGELIST CentreImages(HIMAGELIST boxes, HIMAGELIST rowImages) {
 }
 
 void SwapRows(HWND list, int first, int second) {
-    Row rows[2];
+    // Too large for the stack of a device.
+    const auto rows = std::make_unique<Row[]>(2);
     ReadRow(list, first, rows[0]);
     ReadRow(list, second, rows[1]);
     WriteRow(list, first, rows[1]);

@@ -67,7 +67,7 @@ copy_pristine() {
 install_program() {
     local to="$1/prefix/$install_dir" program_dir library
     if [ "$machine" = arm ]; then
-        program_dir="${OVDEVICE_PROGRAM_DIR:-$root/build/device/device}"
+        program_dir="${OVDEVICE_PROGRAM_DIR:-$root/build/arm/device}"
         for library in coredll aygshell imaging; do
             cp --remove-destination "$root/build/pc32/device/$library.dll" \
                 "$1/prefix/drive_c/windows/system32/"

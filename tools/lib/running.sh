@@ -16,11 +16,13 @@ load_device() {
         printf -v "device_$key" %s "$value"
     done <"$dir/device.conf"
     choose_wine "$device_machine"
+    local runner=
+    [ "$device_machine" != arm ] || runner=$arm_loader
     environment=(
         -u WINEARCH -u WINELOADER -u WINESERVER -u WINEDLLPATH -u WINEDLLOVERRIDES -u LANGUAGE
         WINEPREFIX="$dir/prefix" WINEDEBUG="${WINEDEBUG:--all}"
         WINEPATH='C:\Program Files\Teskel\Orvane' OVDEVICE_OS="$device_os"
-        LC_ALL="$device_locale.UTF-8" LOCPATH="$run/locale" FONTCONFIG_FILE="$run/fonts.conf"
+        OVDEVICE_RUNNER="$runner" LC_ALL="$device_locale.UTF-8" LOCPATH="$run/locale" FONTCONFIG_FILE="$run/fonts.conf"
     )
 }
 

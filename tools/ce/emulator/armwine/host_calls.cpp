@@ -18,6 +18,8 @@ struct Ordinal {
     const char* name;
 };
 constexpr Ordinal kOrdinals[] = {
+    {"aygshell.dll", "#34", "SHCreateMenuBar"},
+    {"aygshell.dll", "#56", "SHInitDialog"},
     {"aygshell.dll", "#83", "SHHandleWMSettingChange"},
     {"aygshell.dll", "#84", "SHHandleWMActivate"},
 };
@@ -33,10 +35,20 @@ Machine::HostFunction FunctionAt(const void* function) {
     return [function](Machine::Words words) -> uint64_t { return CallHost(function, words); };
 }
 
+// Wine's controls tell of keys in structures without alignment, which may lie at any address; a
+// device's do not. Such a notification is handed on from a place that the processor can read.
+uint32_t Aligned(uint32_t message, uint32_t lParam) {
+    constexpr uint32_t kSize = 18; // NMLVKEYDOWN, NMTCKEYDOWN, NMTVKEYDOWN.
+    alignas(4) static uint8_t copy[kSize];
+    if (message != WM_NOTIFY || lParam % 4 == 0) return lParam;
+    memcpy(copy, reinterpret_cast<const void*>(lParam), kSize);
+    return reinterpret_cast<uint32_t>(copy);
+}
+
 // Called by the code that WrapProcedure writes, with the program's function and the words that its
 // caller pushed.
 extern "C" __attribute__((used)) uint32_t CallProgram(uint32_t function, const uint32_t* words) {
-    return machine->Call(function, {words[0], words[1], words[2], words[3]});
+    return machine->Call(function, {words[0], words[1], words[2], Aligned(words[1], words[3])});
 }
 
 } // namespace
@@ -121,9 +133,13 @@ void SetUpHostCalls() {
 Machine::HostFunction FindHostCall(const PeImage::Import& import) {
     const std::string name = NameOf(import);
     if (auto wrapped = FindWrappedCall(name)) return wrapped;
-    for (HMODULE library : libraries) {
-        if (auto* function = reinterpret_cast<const void*>(GetProcAddress(library, name.c_str())))
-            return FunctionAt(function);
+    // The device names some calls without the W of a PC's wide ones.
+    for (const std::string& spelling : {name, name + "W"}) {
+        for (HMODULE library : libraries) {
+            if (auto* function =
+                    reinterpret_cast<const void*>(GetProcAddress(library, spelling.c_str())))
+                return FunctionAt(function);
+        }
     }
     fprintf(stderr, "armwine: nothing serves %s!%s\n", import.library.c_str(), import.name.c_str());
     return {};
