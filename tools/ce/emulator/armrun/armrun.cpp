@@ -74,6 +74,10 @@ uint32_t PutWords(int count, char** words) {
 
 } // namespace
 
+uint32_t ProgramBase() {
+    return kImage;
+}
+
 int main(int argc, char** argv) {
     int next = 1;
     setlocale(LC_CTYPE, "C.UTF-8");

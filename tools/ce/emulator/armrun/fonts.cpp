@@ -1,4 +1,6 @@
 // The screen's density and fonts, as far as settings know them: nothing is drawn.
+#include <unistd.h>
+
 #include <cstring>
 
 #include "handles.h"
@@ -52,11 +54,18 @@ uint32_t DeleteObject(uint32_t handle) {
     return Opened<Font>(handle) && handles.Remove(handle);
 }
 
+// Pictures are not loaded here, only missed.
+uint32_t SHLoadDIBitmap(const char16_t* path) {
+    if (access(HostPathOf(path).c_str(), F_OK) == 0)
+        Fail("the picture %s is to be loaded", Utf8(path).c_str());
+    return 0;
+}
+
 } // namespace
 
 const std::vector<HostEntry>& FontCalls() {
-    static const std::vector<HostEntry> entries = {SERVE(GetDC),         SERVE(ReleaseDC),
-                                                   SERVE(GetDeviceCaps), SERVE(CreateFontIndirectW),
-                                                   SERVE(GetObjectW),    SERVE(DeleteObject)};
+    static const std::vector<HostEntry> entries = {
+        SERVE(GetDC),      SERVE(ReleaseDC),    SERVE(GetDeviceCaps), SERVE(CreateFontIndirectW),
+        SERVE(GetObjectW), SERVE(DeleteObject), SERVE(SHLoadDIBitmap)};
     return entries;
 }

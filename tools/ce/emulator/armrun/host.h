@@ -19,6 +19,9 @@ const std::vector<HostEntry>& PlannedFaultCalls();
 // The host's folder that is the device's root.
 extern std::string deviceRoot;
 
+// Where the program is.
+uint32_t ProgramBase();
+
 // The host's path of a file of the device.
 std::string HostPathOf(std::u16string_view path);
 

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr uint32_t kNotExecutable = 193;
+constexpr uint32_t kModuleNotFound = 126;
 constexpr uint32_t kTexts = 6;       // The kind of resource.
 constexpr uint32_t kBlockTexts = 16; // Texts in a resource.
 
@@ -73,6 +74,13 @@ Library* LibraryAt(uint32_t handle) {
     return nullptr;
 }
 
+uint32_t GetModuleHandleW(const char16_t* path) {
+    for (const Library& library : libraries) {
+        if (path && Lower(library.path) == Lower(path)) return guest.AddressOf(library.base);
+    }
+    return path ? Failed(kModuleNotFound, 0U) : ProgramBase();
+}
+
 uint32_t FreeLibrary(uint32_t handle) {
     Library* library = LibraryAt(handle);
     if (!library) return Failed(kInvalidHandleError, 0U);
@@ -104,7 +112,7 @@ uint32_t LoadStringW(uint32_t handle, uint32_t number, char16_t* buffer, uint32_
 } // namespace
 
 const std::vector<HostEntry>& LibraryCalls() {
-    static const std::vector<HostEntry> entries = {SERVE(LoadLibraryW), SERVE(FreeLibrary),
-                                                   SERVE(LoadStringW)};
+    static const std::vector<HostEntry> entries = {SERVE(LoadLibraryW), SERVE(GetModuleHandleW),
+                                                   SERVE(FreeLibrary), SERVE(LoadStringW)};
     return entries;
 }

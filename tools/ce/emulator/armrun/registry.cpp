@@ -1,5 +1,5 @@
-// The registry, in memory: the device's calls with its errors. Keys and values are given out in
-// the order in which they came, as a device promises none.
+// The registry, in memory: the device's calls with its errors. Keys are given out by name, as on a
+// PC; values in the order in which they came.
 #include <algorithm>
 #include <cstring>
 #include <map>
@@ -84,7 +84,11 @@ std::shared_ptr<Key> Walk(const std::shared_ptr<Key>& from, std::u16string_view 
         if (!created) return nullptr;
         auto made = std::make_shared<Key>();
         made->name = name;
-        key->keys.push_back(made);
+        const auto after =
+            std::ranges::find_if(key->keys, [lower = Lower(name)](const auto& other) {
+                return Lower(other->name) > lower;
+            });
+        key->keys.insert(after, made);
         key = made;
         *created = true;
     }

@@ -84,6 +84,19 @@ uint32_t GetTickCount() {
         std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
 }
 
+// Nobody sends or receives one here; each is a number of its own.
+uint32_t RegisterWindowMessageW(const char16_t* name) {
+    constexpr uint32_t kFirst = 0xC000;
+    static std::map<std::u16string, uint32_t> messages;
+    return messages.emplace(Lower(name), kFirst + static_cast<uint32_t>(messages.size()))
+        .first->second;
+}
+
+// There is one cursor, which nobody sees.
+uint32_t NoCursor(uint32_t, uint32_t) {
+    return 0;
+}
+
 uint32_t GetCurrentProcessId() {
     return 1;
 }
@@ -114,11 +127,23 @@ void LeaveError(uint32_t error) {
 
 const std::vector<HostEntry>& SystemCalls() {
     static const std::vector<HostEntry> entries = {
-        SERVE(GetLastError),        SERVE(SetLastError),       SERVE(CloseHandle),
-        SERVE(CreateEventW),        SERVE(GetVersionExW),      SERVE(StandInSetOsVersion),
-        SERVE(GetLocaleInfoW),      SERVE(SetLocaleInfoW),     SERVE(GetTickCount),
-        SERVE(GetCurrentProcessId), SERVE(GetCurrentThreadId), SERVE(TerminateProcess),
-        SERVE(OutputDebugStringW),  SERVE(EmulatorWrite),
+        SERVE(GetLastError),
+        SERVE(SetLastError),
+        SERVE(CloseHandle),
+        SERVE(CreateEventW),
+        SERVE(GetVersionExW),
+        SERVE(StandInSetOsVersion),
+        SERVE(GetLocaleInfoW),
+        SERVE(SetLocaleInfoW),
+        SERVE(GetTickCount),
+        SERVE(GetCurrentProcessId),
+        SERVE(GetCurrentThreadId),
+        SERVE(TerminateProcess),
+        SERVE(RegisterWindowMessageW),
+        {"LoadCursorW", serve::Function(NoCursor)},
+        {"SetCursor", serve::Function(NoCursor)},
+        SERVE(OutputDebugStringW),
+        SERVE(EmulatorWrite),
     };
     return entries;
 }

@@ -133,8 +133,9 @@ void SetUpHostCalls() {
 Machine::HostFunction FindHostCall(const PeImage::Import& import) {
     const std::string name = NameOf(import);
     if (auto wrapped = FindWrappedCall(name)) return wrapped;
-    // The device names some calls without the W of a PC's wide ones.
-    for (const std::string& spelling : {name, name + "W"}) {
+    // The device names some calls without the W of a PC's wide ones; without it, a PC has another
+    // call.
+    for (const std::string& spelling : {name + "W", name}) {
         for (HMODULE library : libraries) {
             if (auto* function =
                     reinterpret_cast<const void*>(GetProcAddress(library, spelling.c_str())))
