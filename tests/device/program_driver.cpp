@@ -47,6 +47,10 @@ std::wstring Runner() {
 DashboardListener* currentListener;
 } // namespace
 
+bool IsEmulated() {
+    return !Runner().empty();
+}
+
 bool WaitUntil(const std::function<bool()>& condition) {
     for (int waited = 0; waited < kWaitMilliseconds; waited += kPollMilliseconds) {
         if (condition()) return true;

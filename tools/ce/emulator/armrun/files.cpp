@@ -134,6 +134,8 @@ bool MayShare(const fs::path& path, uint32_t access, uint32_t share) {
 // Why a file cannot be opened so; kSuccess when it can.
 uint32_t CheckOpening(const fs::path& path, uint32_t access, uint32_t share, uint32_t disposition) {
     const bool exists = Exists(path);
+    if (path.filename().u16string().find_first_of(u"<>:\"/|?*") != std::u16string::npos)
+        return kInvalidName;
     if (IsFolder(path)) return kAccessDenied;
     if (exists && disposition == kCreateNew) return kFileExists;
     if (!exists && (disposition == kOpenExisting || disposition == kTruncateExisting))

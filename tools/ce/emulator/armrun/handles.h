@@ -42,8 +42,8 @@ constexpr uint32_t kInvalidHandle = 0xFFFFFFFF;
 constexpr uint32_t kSuccess = 0, kFileNotFound = 2, kPathNotFound = 3, kAccessDenied = 5,
                    kInvalidHandleError = 6, kNoMoreFiles = 18, kSharingViolation = 32,
                    kFileExists = 80, kInvalidParameter = 87, kInsufficientBuffer = 122,
-                   kDirectoryNotEmpty = 145, kAlreadyExists = 183, kMoreData = 234,
-                   kNoMoreItems = 259, kKeyDeleted = 1018;
+                   kInvalidName = 123, kDirectoryNotEmpty = 145, kAlreadyExists = 183,
+                   kMoreData = 234, kNoMoreItems = 259, kKeyDeleted = 1018;
 
 void LeaveError(uint32_t error);
 // Leaves the error and gives what a failed call gives.

@@ -14,6 +14,7 @@ constexpr uint32_t kUserRoot = 0x80000001;
 constexpr uint32_t kMachineRoot = 0x80000002;
 constexpr uint32_t kCreated = 1;
 constexpr uint32_t kOpened = 2;
+constexpr size_t kLongestName = 255; // Of a key.
 
 using Text = const char16_t*;
 
@@ -81,7 +82,7 @@ std::shared_ptr<Key> Walk(const std::shared_ptr<Key>& from, std::u16string_view 
             key = *found;
             continue;
         }
-        if (!created) return nullptr;
+        if (!created || name.size() > kLongestName) return nullptr;
         auto made = std::make_shared<Key>();
         made->name = name;
         const auto after =
@@ -127,9 +128,10 @@ uint32_t PutName(std::u16string_view name, char16_t* buffer, uint32_t* length) {
 
 uint32_t RegCreateKeyExW(uint32_t parent, Text path, uint32_t, Text, uint32_t, uint32_t, void*,
                          uint32_t* result, uint32_t* disposition) {
-    return WithKey(kCreateKey, parent, [&](Key&) {
+    return WithKey(kCreateKey, parent, [&](Key&) -> uint32_t {
         bool created = false;
         auto key = Walk(KeyOf(parent), path, &created);
+        if (!key) return kInvalidParameter;
         if (disposition) *disposition = created ? kCreated : kOpened;
         return HandOut(std::move(key), result);
     });

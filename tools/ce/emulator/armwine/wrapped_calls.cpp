@@ -165,7 +165,7 @@ uint64_t WrappedTerminateProcess(Words words) {
     constexpr uint32_t kOwnProcess = 0x42;
     if (words[0] != kOwnProcess && As<HANDLE>(words[0]) != GetCurrentProcess())
         return PassOn("TerminateProcess", words);
-    WriteMark("end");
+    WriteMark("save and end");
     fflush(stdout);
     ExitProcess(words[1]);
 }
