@@ -7,6 +7,11 @@ set(CMAKE_SHARED_MODULE_PREFIX "")
 set(CMAKE_SHARED_MODULE_SUFFIX ".dll")
 
 set(device_linker "${CMAKE_CURRENT_LIST_DIR}/../../tools/ce/link")
+# What is to be linked anew when one of them changes.
+set(linker_files ${device_linker})
+foreach(file elf.py image.py resources.py image.ld)
+    list(APPEND linker_files ${CMAKE_CURRENT_LIST_DIR}/../../tools/ce/${file})
+endforeach()
 set(CMAKE_CXX_LINK_EXECUTABLE
     "${device_linker} --compiler <CMAKE_CXX_COMPILER> --output <TARGET> -- <FLAGS> <LINK_FLAGS> <OBJECTS> <LINK_LIBRARIES>")
 # Libraries hold nothing but resources.

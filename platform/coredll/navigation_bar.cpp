@@ -4,6 +4,7 @@
 #include <windowsx.h>
 
 #include "round_shapes.h"
+#include "screen.h"
 #include "window_frame.h"
 
 #include <cwchar>
@@ -110,7 +111,7 @@ bool NavigationBar::CreateBarWindow() {
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     RegisterClassW(&windowClass); // Fails when an earlier bar registered it.
     window_ = CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, kClassName, nullptr, WS_POPUP, 0,
-                              0, GetSystemMetrics(SM_CXSCREEN), ShellScale(kBarUnits), nullptr,
+                              0, CoreGetSystemMetrics(SM_CXSCREEN), ShellScale(kBarUnits), nullptr,
                               nullptr, nullptr, nullptr);
     return window_ != nullptr;
 }
@@ -231,7 +232,7 @@ void NavigationBar::OnTimer() {
 }
 
 void NavigationBar::OnDisplayChange() {
-    MoveWindow(window_, 0, 0, GetSystemMetrics(SM_CXSCREEN), ShellScale(kBarUnits), TRUE);
+    MoveWindow(window_, 0, 0, CoreGetSystemMetrics(SM_CXSCREEN), ShellScale(kBarUnits), TRUE);
 }
 
 void NavigationBar::OnPaint() {

@@ -4,3 +4,5 @@
 
 // The screen less the navigation bar.
 [[nodiscard]] RECT WorkArea();
+
+extern "C" int WINAPI CoreGetSystemMetrics(int index);

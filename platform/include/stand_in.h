@@ -51,4 +51,9 @@ void WINAPI StandInSetOsVersion(DWORD major, DWORD minor);
 
 // Sets the folder of the object store's databases; null or empty goes back to "\Object Store".
 void WINAPI StandInSetObjectStore(LPCWSTR folder);
+
+// Plays a screen of another size in the upper left corner of the PC's, and turns to it the windows
+// that this process has; 0, 0 goes back to the PC's own. Those windows learn of it when their
+// thread handles its next messages.
+void WINAPI StandInSetScreen(int width, int height);
 }

@@ -41,7 +41,8 @@ bool ReadRecord(HANDLE database, CategoryRecord& record) {
     DWORD size = 0;
     const bool found =
         CeReadRecordPropsEx(database, CEDB_ALLOWREALLOC, &count, ids, &buffer, &size, nullptr) != 0;
-    record = RecordOf(reinterpret_cast<const CEPROPVAL*>(buffer),
+    const void* properties = buffer; // Aligned for them, though it is bytes by type.
+    record = RecordOf(static_cast<const CEPROPVAL*>(properties),
                       found && buffer != nullptr ? count : WORD{0});
     // The call may leave a buffer behind even when it fails.
     if (buffer != nullptr) LocalFree(buffer);

@@ -6,6 +6,7 @@
 #include <cwchar>
 
 #include "files/file_stream.h"
+#include "files/found_file.h"
 #include "settings/settings_store.h"
 #include "shell/services/handles.h"
 #include "shell/services/text_order.h"
@@ -13,14 +14,10 @@
 namespace {
 constexpr wchar_t kExtension[] = L".txt";
 
-// Where the extension begins; null for what is no alphabet file, or one without a name. The pattern
-// also finds longer extensions on some platforms.
+// Where the extension begins; null for what is no alphabet file, or one without a name.
 const wchar_t* ExtensionOf(const WIN32_FIND_DATA& found) {
     const wchar_t* extension = wcsrchr(found.cFileName, L'.');
-    const bool isAlphabet = !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) &&
-                            extension != nullptr && extension != found.cFileName &&
-                            lstrcmpi(extension, kExtension) == 0;
-    return isAlphabet ? extension : nullptr;
+    return IsFileOf(found, kExtension) && extension != found.cFileName ? extension : nullptr;
 }
 
 CustomAlphabet ReadFileOf(const WideString& folder, const WIN32_FIND_DATA& found,

@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "files/found_file.h"
 #include "settings/registry_values.h"
 #include "settings/settings_store.h"
 #include "shell/services/handles.h"
+#include "shell/services/text_order.h"
 
 IconCatalogue iconCatalogue;
 
@@ -19,13 +21,6 @@ constexpr const wchar_t* kInstallPaths[] = {L"InstallPath24", L"InstallPath18", 
 // What registers icon sets writes at most 512 bytes, the terminator among them.
 constexpr size_t kInstallPathLimit = 512 / sizeof(wchar_t) - 1;
 constexpr wchar_t kExtension[] = L".bmp";
-
-// A pattern with the extension finds longer extensions as well on some platforms.
-bool IsIconFile(const WIN32_FIND_DATA& found) {
-    const wchar_t* extension = wcsrchr(found.cFileName, L'.');
-    return !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && extension &&
-           _wcsicmp(extension, kExtension) == 0;
-}
 
 // What a path names, without folder and extension.
 WideString NameOf(const WideString& path) {
@@ -75,12 +70,13 @@ void IconCatalogue::AddIconFolder(const WideString& folder) {
     WIN32_FIND_DATA found;
     const UniqueFind find(FindFirstFile(pattern.CStr(), &found));
     for (bool more = static_cast<bool>(find); more; more = FindNextFile(find.Get(), &found)) {
-        if (IsIconFile(found)) icons_.push_back({NameOf(found.cFileName), folders_.size()});
+        if (IsFileOf(found, kExtension))
+            icons_.push_back({NameOf(found.cFileName), folders_.size()});
     }
     folders_.push_back(std::move(base));
     // Sorted as a whole, not insertion by insertion: thousands of icons must not take minutes.
     const auto isBefore = [](const Icon& left, const Icon& right) {
-        return lstrcmpi(left.name.CStr(), right.name.CStr()) < 0;
+        return TextOrder()(left.name, right.name);
     };
     const auto middle = icons_.begin() + static_cast<ptrdiff_t>(known);
     std::stable_sort(middle, icons_.end(), isBefore);

@@ -49,7 +49,8 @@ class IconSet {
   public:
     static constexpr size_t kSymbolCount = 24;
 
-    // An empty folder (without a trailing backslash) stands for the built-in pictures alone.
+    // From a folder (without a trailing backslash); an empty one stands for the built-in pictures
+    // alone.
     void LoadIconSet(const WideString& folder);
     // One symbol: folder\stem as png or else tga; with a transparent colour also as bmp and as
     // "_high.bmp", in which that colour is not drawn; else the built-in bitmap. kNoColour: none.

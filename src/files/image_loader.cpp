@@ -37,6 +37,11 @@ struct PixelRows {
     uint32_t height;
     const uint8_t* first;
     ptrdiff_t stride; // Bytes from a row to the next.
+
+    [[nodiscard]] const uint32_t* Row(uint32_t y) const {
+        const void* row = first + stride * y; // Aligned as pixels are.
+        return static_cast<const uint32_t*>(row);
+    }
 };
 
 UniqueBitmap MakeBitmap(const PixelRows& rows) {
@@ -52,7 +57,7 @@ UniqueBitmap MakeBitmap(const PixelRows& rows) {
     if (!bitmap) return bitmap;
     auto* pixel = static_cast<uint32_t*>(bits);
     for (uint32_t y = 0; y < rows.height; ++y) {
-        const auto* row = reinterpret_cast<const uint32_t*>(rows.first + rows.stride * y);
+        const uint32_t* row = rows.Row(y);
         for (uint32_t x = 0; x < rows.width; ++x)
             *pixel++ = OverWhite(row[x]);
     }

@@ -3,6 +3,7 @@
 #include <cwchar>
 
 #include "files/file_stream.h"
+#include "files/found_file.h"
 #include "files/line_writer.h"
 #include "files/settings_backup.h"
 #include "settings/registry_tree.h"
@@ -27,13 +28,6 @@ WideString SchemePath(const wchar_t* fileName, const wchar_t* extension = L"") {
     return path;
 }
 
-// A pattern of three letters also finds longer extensions on a PC.
-bool IsSchemeFile(const WIN32_FIND_DATA& found) {
-    const wchar_t* extension = wcsrchr(found.cFileName, L'.');
-    return !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && extension != nullptr &&
-           lstrcmpi(extension, kExtension) == 0;
-}
-
 const wchar_t* PathOf(SettingGroup group) {
     return KeyOfGroup(group).path;
 }
@@ -45,7 +39,7 @@ std::vector<WideString> SchemeFileNames() {
     WIN32_FIND_DATA found;
     const UniqueFind find(FindFirstFile(SchemePath(L"*", kExtension).CStr(), &found));
     for (bool more = static_cast<bool>(find); more; more = FindNextFile(find.Get(), &found)) {
-        if (IsSchemeFile(found)) names.emplace_back(found.cFileName);
+        if (IsFileOf(found, kExtension)) names.emplace_back(found.cFileName);
     }
     return names;
 }

@@ -60,8 +60,8 @@ class KeyTreeWriter {
 
     // A stored text may lack its terminator.
     [[nodiscard]] std::wstring_view TextOf(DWORD size) const {
-        const auto* text = reinterpret_cast<const wchar_t*>(value_->data);
-        const std::wstring_view all(text, size / sizeof(wchar_t));
+        const void* text = value_->data;
+        const std::wstring_view all(static_cast<const wchar_t*>(text), size / sizeof(wchar_t));
         return all.substr(0, all.find(L'\0'));
     }
 

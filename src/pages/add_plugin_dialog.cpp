@@ -19,6 +19,7 @@ constexpr int kMargin = 10;
 constexpr int kHelpTop = 8;
 constexpr int kHelpHeight = 56;
 constexpr int kLabelTop = 68;
+constexpr int kLabelHeight = 16;
 constexpr int kListTop = 84;
 constexpr int kRowHeight = 20;
 constexpr int kDropHeight = 100;
@@ -55,7 +56,8 @@ void AddPluginDialog::Layout(HWND dialog) {
     const int row = ScaleY(kRowHeight);
     PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_HELP),
                  {left, ScaleY(kHelpTop), width, ScaleY(kHelpHeight)});
-    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LABEL), {left, ScaleY(kLabelTop), width, row});
+    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LABEL),
+                 {left, ScaleY(kLabelTop), width, ScaleY(kLabelHeight)});
     PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LIST),
                  {left, ScaleY(kListTop), width, ScaleY(kDropHeight)});
     PlaceControl(

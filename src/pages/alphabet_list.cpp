@@ -101,9 +101,7 @@ void AlphabetList::OnNotify(const NMHDR& header) const {
         const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
         if (change.iItem >= 0) RefuseTick(change.iItem);
     } else if (header.code == NM_RETURN) {
-        // Enter ticks a row, as devices have no space bar.
-        const int row = FocusedRow(list_);
-        if (row >= 0) TickRow(list_, row, !IsRowTicked(list_, row));
+        ToggleFocusedRow(list_);
     }
 }
 

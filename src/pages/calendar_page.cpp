@@ -8,6 +8,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/file_dialog.h"
+#include "ui/tab_strip.h"
 
 namespace {
 // Control ids; those of the option lists stand in calendar_options.h.
@@ -47,7 +48,6 @@ constexpr int kWeatherTab = 7;
 
 constexpr int kTop = 8;
 constexpr int kMargin = 10;
-constexpr int kTabStripHeight = 22;
 
 constexpr FormTab kTabs[] = {
     {IDS_TAB_GENERAL, kDaysLabel, kSortTasks},
@@ -241,6 +241,8 @@ void CalendarPage::CreateControls(HWND window) {
 void CalendarPage::ShowTab(HWND window, int showCommand) {
     const int tab = CurrentTab();
     if (tab < 0 || tab >= GetTabCount()) return;
+    const UINT firstId = kTabs[static_cast<size_t>(tab)].firstId;
+    if (showCommand != SW_HIDE) optionLists_.Enter(window, firstId);
     if (tab == kWeatherTab && showCommand != SW_HIDE) {
         const bool hasWeather = HasWeather();
         ShowControlRange(window, hasWeather ? kWeatherLayoutLabel : kWeatherNotice,
@@ -248,7 +250,7 @@ void CalendarPage::ShowTab(HWND window, int showCommand) {
     } else {
         FormPage::ShowTab(window, showCommand);
     }
-    if (showCommand == SW_HIDE) optionLists_.Leave(window, kTabs[static_cast<size_t>(tab)].firstId);
+    if (showCommand == SW_HIDE) optionLists_.Leave(window, firstId);
     InvalidateRect(window, nullptr, TRUE);
     if (showCommand != SW_HIDE) UpdateWindow(window);
 }

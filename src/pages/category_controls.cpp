@@ -42,9 +42,9 @@ constexpr PageControl kControls[] = {
      IDS_CATEGORY_COLOUR,
      {-117, -28, 111, 22},
      {-117, -28, 111, 22}},
-    {kFilterLabel, L"STATIC", SS_LEFT, IDS_FILTER, {6, 9, 36, 16}, {6, 9, 36, 16}},
-    {kFilter, L"COMBOBOX", kComboStyle, 0, {44, 6, -84, 140}, {44, 6, 128, 140}},
-    {kRename, L"BUTTON", WS_TABSTOP, IDS_FILTER_RENAME, {-78, 6, 72, 20}, {44, 30, 128, 20}},
+    {kFilterLabel, L"STATIC", SS_LEFT, IDS_FILTER, {6, 9, 40, 16}, {6, 9, 40, 16}},
+    {kFilter, L"COMBOBOX", kComboStyle, 0, {46, 6, -84, 140}, {46, 6, 126, 140}},
+    {kRename, L"BUTTON", WS_TABSTOP, IDS_FILTER_RENAME, {-78, 6, 72, 20}, {46, 30, 126, 20}},
     {kVisible, L"BUTTON", kCheckStyle, IDS_FILTER_VISIBLE, {6, 32, -6, 20}, {6, 54, 166, 20}},
     {kUncategorized,
      L"BUTTON",
@@ -87,9 +87,7 @@ ControlPlace PlaceOf(const Spot& spot, SIZE room) {
 // Rows that the page draws need a list that asks for their height when it is made.
 void PrepareOwnerDrawn(HWND list) {
     SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
-    LVCOLUMN column{};
-    column.mask = LVCF_WIDTH;
-    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+    AddColumn(list);
 }
 } // namespace
 

@@ -126,12 +126,6 @@ void ChooseIcon(HWND window) {
         category->icon = ReplaceCategoryIcon(category->name, chosen);
     ShowCategoryAgain(window);
 }
-
-// Enter is the device's action key; the list itself knows only the space bar.
-void ToggleFocusedMember(HWND list) {
-    const int row = FocusedRow(list);
-    if (row >= 0) TickRow(list, row, !IsRowTicked(list, row));
-}
 } // namespace
 
 CategoryPage::CategoryPage() : FormPage(kTables) {}
@@ -254,8 +248,7 @@ bool CategoryPage::BrowsePath(HWND window, const FormRow&, WideString& path) {
 LRESULT CategoryPage::OnNotify(HWND window, UINT, WPARAM, NMHDR* header) {
     if (header->idFrom == kCategories && header->code == LVN_ITEMCHANGED)
         EnableCategoryButtons(window);
-    if (header->idFrom == kMembers && header->code == NM_RETURN)
-        ToggleFocusedMember(header->hwndFrom);
+    if (header->idFrom == kMembers && header->code == NM_RETURN) ToggleFocusedRow(header->hwndFrom);
     return 0;
 }
 

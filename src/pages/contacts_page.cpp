@@ -38,21 +38,15 @@ constexpr FormTab kTabs[] = {
 constexpr UINT kLayoutChoices[] = {IDS_CONTACTS_LAYOUT_ONE_LINE, IDS_CONTACTS_LAYOUT_TWO_LINES,
                                    IDS_CONTACTS_LAYOUT_PICTURES};
 
-void AddNumber(HWND combo, uint32_t number) {
-    WideString text;
-    text.Format(L"%u", number);
-    AddEntry(combo, text.CStr(), number);
-}
-
 // In units. A width that is not among those offered has an entry of its own at the end.
 void FillPhoneWidths(HWND combo) {
     constexpr uint32_t kLeast = 40;
     constexpr uint32_t kMost = 160;
     constexpr uint32_t kStep = 10;
     for (uint32_t width = kLeast; width <= kMost; width += kStep)
-        AddNumber(combo, width);
+        AddNumberEntry(combo, width);
     const uint32_t stored = settingsStore.CntctsPhoneColumnWidth.value;
-    if (!SelectData(combo, stored)) AddNumber(combo, stored);
+    if (!SelectData(combo, stored)) AddNumberEntry(combo, stored);
 }
 
 constexpr FormRow kRows[] = {
@@ -90,7 +84,7 @@ constexpr FormRow kRows[] = {
      .text = IDS_TITLES_BREAK_LINE,
      .choices = kBreakLineChoices,
      .setting = &SettingsStore::CntctsBreakLineStyle,
-     .gapAfter = -2,
+     .gapAfter = -1,
      .keepsOthers = true},
     {.tab = 0,
      .kind = RowKind::Switch,
@@ -169,9 +163,7 @@ void ContactsPage::LoadCustomRow(HWND window, const FormRow& row) {
         alphabets_.Fill();
         return;
     }
-    searchBar_.Fill(GetDlgItem(window, static_cast<int>(row.id)),
-                    {settingsStore.CntctsActiveSearchBar.value,
-                     settingsStore.ContactsCustomSearchBarSelected.value});
+    searchBar_.Fill(Item(window, row.id));
 }
 
 void ContactsPage::SaveCustomRow(HWND, const FormRow& row) {
@@ -179,9 +171,7 @@ void ContactsPage::SaveCustomRow(HWND, const FormRow& row) {
         alphabets_.Save();
         return;
     }
-    const SearchBarChoice choice = searchBar_.Choice();
-    settingsStore.CntctsActiveSearchBar.Set(choice.active);
-    settingsStore.ContactsCustomSearchBarSelected.Set(choice.custom.CStr());
+    searchBar_.Save();
 }
 
 LRESULT ContactsPage::OnNotify(HWND, UINT, WPARAM, NMHDR* header) {

@@ -18,6 +18,7 @@ class ContactsPage final : public FormPage {
     void SaveCustomRow(HWND window, const FormRow& row) override;
 
   private:
-    SearchBarChooser searchBar_;
+    SearchBarChooser searchBar_{settingsStore.CntctsActiveSearchBar,
+                                settingsStore.ContactsCustomSearchBarSelected};
     AlphabetList alphabets_;
 };

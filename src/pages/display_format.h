@@ -10,7 +10,8 @@ class DisplayFormat final : private ButtonStrip {
   public:
     DisplayFormat();
 
-    // Makes the text's control, at no place yet. The object must outlive it; it is the page's.
+    // Makes the text's control, hidden and at no place yet. The object must outlive it; it is the
+    // page's.
     void Create(HWND page, HFONT font, UINT id);
 
     // `top` is in pixels of the page, as is what follows.

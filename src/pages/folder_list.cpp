@@ -70,8 +70,7 @@ bool FolderList::Add(const WideString& path) {
 void FolderList::OnRowsChanged() const {
     FitColumn(list_);
     // An empty list cannot show that it has the focus, so the keys pass over it.
-    const LONG style = GetWindowLong(list_, GWL_STYLE) & ~WS_TABSTOP;
-    SetWindowLong(list_, GWL_STYLE, paths_.empty() ? style : style | WS_TABSTOP);
+    SetTabStop(list_, !paths_.empty());
 }
 
 bool FolderList::Append(const WideString& path) {

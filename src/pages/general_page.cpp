@@ -1,5 +1,6 @@
 #include "pages/general_page.h"
 
+#include "files/found_file.h"
 #include "resource_ids.h"
 #include "shell/services/handles.h"
 #include "shell/services/number_text.h"
@@ -278,15 +279,6 @@ void FillHeights(HWND combo, bool withZero, uint32_t current) {
     text.Format(L"%d", static_cast<int>(current));
     SetWindowText(combo, text.CStr());
 }
-
-// The name that a language library gives itself; false when it has none.
-bool LanguageName(HMODULE library, WideString& name) {
-    constexpr int kNameLimit = 256;
-    wchar_t buffer[kNameLimit];
-    if (!LoadString(library, IDS_LANGUAGE_NAME, buffer, kNameLimit)) return false;
-    name = buffer;
-    return true;
-}
 } // namespace
 
 GeneralPage::GeneralPage() : FormPage(kTables) {}
@@ -330,12 +322,13 @@ void GeneralPage::FillLanguages(HWND combo) {
     size_t slot = 0;
     for (bool more = static_cast<bool>(find); more && slot < kLanguageLimit;
          more = FindNextFile(find.Get(), &found)) {
+        if (!IsFileOf(found, L".dll")) continue;
         WideString path(folder);
         path.Append(found.cFileName);
         const UniqueModule library(LoadLibrary(path.CStr()));
         if (!library) continue;
         WideString name;
-        if (LanguageName(library.Get(), name)) {
+        if (LoadResString(library.Get(), IDS_LANGUAGE_NAME, name) > 0) {
             const LRESULT entry =
                 SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.CStr()));
             if (path == settingsStore.SelectedLangResFile.value)

@@ -163,9 +163,7 @@ void NotesPage::PlaceFolders(HWND window, const FormRow& row, RowLayout& layout)
 
 void NotesPage::LoadCustomRow(HWND window, const FormRow& row) {
     if (row.id == kSearchBar) {
-        searchBar_.Fill(GetDlgItem(window, static_cast<int>(kSearchBar)),
-                        {settingsStore.NotesActiveSearchBar.value,
-                         settingsStore.NotesCustomSearchBarSelected.value});
+        searchBar_.Fill(Item(window, kSearchBar));
     } else if (row.id == kNoteFiles) {
         LoadFileTypes(window);
     } else if (row.id == kFolders) {
@@ -180,9 +178,7 @@ void NotesPage::LoadCustomRow(HWND window, const FormRow& row) {
 
 void NotesPage::SaveCustomRow(HWND window, const FormRow& row) {
     if (row.id == kSearchBar) {
-        const SearchBarChoice choice = searchBar_.Choice();
-        settingsStore.NotesActiveSearchBar.Set(choice.active);
-        settingsStore.NotesCustomSearchBarSelected.Set(choice.custom.CStr());
+        searchBar_.Save();
     } else if (row.id == kNoteFiles) {
         SaveFileTypes(window);
     } else if (row.id == kFolders && foldersAreKnown_) {

@@ -23,7 +23,8 @@ class NotesPage final : public FormPage {
     void AddFolder(HWND window);
     void RemoveFolder(HWND window);
 
-    SearchBarChooser searchBar_;
+    SearchBarChooser searchBar_{settingsStore.NotesActiveSearchBar,
+                                settingsStore.NotesCustomSearchBarSelected};
     FolderList folders_;
     bool foldersAreKnown_ = false; // They could be read, and so may be replaced.
 };

@@ -22,14 +22,21 @@ WideString TipOf(const Option& option) {
     return formatted;
 }
 
-void FillList(HWND list, std::span<const Option> options) {
-    for (const Option& option : options)
-        AddRow(list, LanguageText(option.texts.item).CStr());
+void PlaceList(HWND page, HWND list) {
+    const SIZE size = ClientSize(page);
+    const int left = Scale(kMargin);
+    const int top = ScaleY(kTop);
+    // Little is left of a low screen while the input panel covers its half.
+    const int height = std::max(0L, size.cy - ScaleY(kBelowTop) - top);
+    PlaceControl(list,
+                 {left, top + ScaleY(OptionDetailPanel::kHeight), size.cx - 2 * left, height});
+    FitColumn(list);
 }
 } // namespace
 
 void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> lists,
                          UINT firstPanelId) {
+    font_ = font;
     lists_ = lists;
     explainCommand_ = firstPanelId + OptionDetailPanel::kIdCount;
     placedFor_ = {};
@@ -37,33 +44,32 @@ void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> list
     refused_ = nullptr;
     // The panel stands above the lists, and so do its keys.
     panel_.Create(page, font, firstPanelId, kTop);
-    for (const OptionList& list : lists) {
-        HWND control = CreateList(page, list.listId, font, kRowHeight);
-        FillList(control, list.options);
-    }
 }
 
 void OptionLists::Place(HWND page) {
     const SIZE size = ClientSize(page);
     if (size.cx == placedFor_.cx && size.cy == placedFor_.cy) return;
     placedFor_ = size;
-    const int left = Scale(kMargin);
-    const int top = ScaleY(kTop);
-    // Little is left of a low screen while the input panel covers its half.
-    const int height = std::max(0L, size.cy - ScaleY(kBelowTop) - top);
     for (const OptionList& list : lists_) {
-        HWND control = GetDlgItem(page, static_cast<int>(list.listId));
-        PlaceControl(control,
-                     {left, top + ScaleY(OptionDetailPanel::kHeight), size.cx - 2 * left, height});
-        FitColumn(control);
+        if (HWND control = Item(page, list.listId)) PlaceList(page, control);
     }
     panel_.Place();
 }
 
+void OptionLists::Enter(HWND page, UINT listId) {
+    const OptionList* list = ListOfId(listId);
+    if (!list || Item(page, listId)) return;
+    HWND control = CreateList(page, listId, font_, kRowHeight);
+    for (const Option& option : list->options)
+        AddRow(control, LanguageText(option.texts.item).CStr());
+    PlaceList(page, control);
+}
+
 void OptionLists::Leave(HWND page, UINT listId) {
-    if (!ListOfId(listId)) return;
+    HWND list = ListOfId(listId) ? Item(page, listId) : nullptr;
+    if (!list) return;
     StoreShown(page);
-    ClearSelection(GetDlgItem(page, static_cast<int>(listId)));
+    ClearSelection(list);
 }
 
 bool OptionLists::OnCommand(HWND page, UINT id) {

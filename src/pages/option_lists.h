@@ -57,14 +57,14 @@ struct OptionList {
 
 class OptionLists {
   public:
-    // Of the panel's controls and, behind them, of the command below.
-    static constexpr UINT kIdCount = OptionDetailPanel::kIdCount + 1;
-
-    // Makes the panel and the lists, hidden. The table must outlive the object.
+    // Makes the panel, hidden. The table must outlive the object.
     void Create(HWND page, HFONT font, std::span<const OptionList> lists, UINT firstPanelId);
     // Places everything on the page when its size has changed.
     void Place(HWND page);
 
+    // Makes a list that is about to be shown for the first time, hidden. Filling one is slow, and
+    // of the lists of a page only few are ever looked at. An id that is no list's does nothing.
+    void Enter(HWND page, UINT listId);
     // Stores the selected option of a list that is about to be hidden, which leaves nothing
     // selected and the panel hidden. An id that is no list's does nothing.
     void Leave(HWND page, UINT listId);
@@ -92,6 +92,7 @@ class OptionLists {
     void Refuse(HWND page, const Option& option);
     [[nodiscard]] uint32_t ChosenNumber(const Option& option) const;
 
+    HFONT font_ = nullptr;
     std::span<const OptionList> lists_;
     OptionDetailPanel panel_;
     UINT explainCommand_ = 0;

@@ -55,7 +55,7 @@ void FillDaySpans(HWND combo) {
         AddEntry(combo, DecimalText(static_cast<int32_t>(days)).CStr(), days);
 }
 
-// Today, with the separator of the user's locale in place of the slash.
+// Today, in each of the pictures.
 void FillDateSamples(HWND combo) {
     constexpr int kLimit = 32;
     for (const wchar_t* picture : {L"MM/dd", L"MM/dd/yy", L"dd/MM", L"dd/MM/yy"}) {

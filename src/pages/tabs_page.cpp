@@ -275,10 +275,7 @@ LRESULT TabsPage::OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 
 LRESULT TabsPage::OnNotify(HWND window, UINT, WPARAM, NMHDR* header) {
     if (header->idFrom != kList) return 1;
-    HWND list = header->hwndFrom;
     if (header->code == LVN_ITEMCHANGED) EnableRemoval(window);
-    // Enter ticks a row, as devices have no space bar.
-    const int row = header->code == NM_RETURN ? FocusedRow(list) : -1;
-    if (row >= 0) TickRow(list, row, !IsRowTicked(list, row));
+    if (header->code == NM_RETURN) ToggleFocusedRow(header->hwndFrom);
     return 1;
 }

@@ -20,12 +20,7 @@ constexpr int kButtonWidth = 55;
 constexpr int kButtonHeight = 20;
 constexpr int kButtonPitch = 25;
 
-constexpr DwordSetting SettingsStore::*kPlaces[] = {
-    &SettingsStore::CalTitlesOrder0, &SettingsStore::CalTitlesOrder1,
-    &SettingsStore::CalTitlesOrder2, &SettingsStore::CalTitlesOrder3,
-    &SettingsStore::CalTitlesOrder4, &SettingsStore::CalTitlesOrder5,
-};
-constexpr auto kTitles = static_cast<uint32_t>(std::size(kPlaces));
+constexpr auto kTitles = static_cast<uint32_t>(std::size(kCalendarTitlePlaces));
 
 // In the order of the titles' numbers.
 constexpr UINT kNames[kTitles] = {
@@ -38,7 +33,7 @@ void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
     HWND list = CreateList(page, firstId, font, kRowHeight);
     PlaceControl(list, {Scale(kListLeft), ScaleY(top), Scale(kListWidth), ScaleY(kListHeight)});
     for (uint32_t row = 0; row < kTitles; ++row) {
-        const uint32_t stored = (settingsStore.*kPlaces[row]).value;
+        const uint32_t stored = (settingsStore.*kCalendarTitlePlaces[row]).value;
         const uint32_t title = stored < kTitles ? stored : row;
         AddRow(list, LanguageText(kNames[title]).CStr(), static_cast<LPARAM>(title));
     }
@@ -46,11 +41,10 @@ void CreateTitleOrder(HWND page, HFONT font, UINT firstId, int top) {
     const UINT buttons[] = {IDS_MOVE_UP, IDS_MOVE_DOWN};
     for (UINT i = 0; i < std::size(buttons); ++i) {
         const int y = top + static_cast<int>(i) * kButtonPitch;
-        CreateControl(page, L"BUTTON", LanguageText(buttons[i]).CStr(), WS_TABSTOP, firstId + 1 + i,
-                      {Scale(kButtonLeft), ScaleY(y), Scale(kButtonWidth), ScaleY(kButtonHeight)},
-                      font);
+        CreateHiddenControl(
+            page, L"BUTTON", LanguageText(buttons[i]).CStr(), WS_TABSTOP, firstId + 1 + i,
+            {Scale(kButtonLeft), ScaleY(y), Scale(kButtonWidth), ScaleY(kButtonHeight)}, font);
     }
-    ShowControlRange(page, firstId, firstId + kTitleOrderIds - 1, SW_HIDE);
 }
 
 bool OnTitleOrderButton(HWND page, UINT firstId, UINT id) {
@@ -62,6 +56,6 @@ bool OnTitleOrderButton(HWND page, UINT firstId, UINT id) {
 void SaveTitleOrder(HWND page, UINT firstId) {
     HWND list = Item(page, firstId);
     for (uint32_t row = 0; list && row < kTitles; ++row)
-        (settingsStore.*kPlaces[row])
+        (settingsStore.*kCalendarTitlePlaces[row])
             .Set(static_cast<uint32_t>(RowData(list, static_cast<int>(row))));
 }

@@ -37,12 +37,6 @@ constexpr OwnTab kOwnTabs[] = {
      &SettingsStore::SEventsTabOrder},
 };
 
-constexpr DwordSetting SettingsStore::*kTitleOrder[] = {
-    &SettingsStore::CalTitlesOrder0, &SettingsStore::CalTitlesOrder1,
-    &SettingsStore::CalTitlesOrder2, &SettingsStore::CalTitlesOrder3,
-    &SettingsStore::CalTitlesOrder4, &SettingsStore::CalTitlesOrder5,
-};
-
 void LoadTable(const SettingTable& table, SettingsStore& store) {
     const UniqueKey key(OpenGroupKey(table.group));
     table.Load(store, key.Get());
@@ -158,14 +152,14 @@ void SettingsStore::RepairLoadedCalendar() {
 }
 
 void SettingsStore::RepairTitleOrder() {
-    constexpr uint32_t kTitles = std::size(kTitleOrder);
+    constexpr uint32_t kTitles = std::size(kCalendarTitlePlaces);
     uint32_t seen = 0; // Bit n: title n.
-    for (const auto title : kTitleOrder) {
+    for (const auto title : kCalendarTitlePlaces) {
         if ((this->*title).value < kTitles) seen |= 1U << (this->*title).value;
     }
     if (seen == (1U << kTitles) - 1) return;
     for (uint32_t number = 0; number < kTitles; ++number) {
-        (this->*kTitleOrder[number]).Set(number);
+        (this->*kCalendarTitlePlaces[number]).Set(number);
     }
 }
 

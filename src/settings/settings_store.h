@@ -88,3 +88,10 @@ struct SettingsStore {
 };
 
 extern SettingsStore settingsStore;
+
+// The places of the Calendar tab's titles, from the top; each holds a title's number.
+inline constexpr DwordSetting SettingsStore::*kCalendarTitlePlaces[] = {
+    &SettingsStore::CalTitlesOrder0, &SettingsStore::CalTitlesOrder1,
+    &SettingsStore::CalTitlesOrder2, &SettingsStore::CalTitlesOrder3,
+    &SettingsStore::CalTitlesOrder4, &SettingsStore::CalTitlesOrder5,
+};

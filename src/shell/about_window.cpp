@@ -23,6 +23,7 @@ class AboutWindow final : public ModalWindow {
   protected:
     void CreateControls(HWND window) override;
     void OnCommand(HWND window, UINT id, UINT notification) override;
+    void Layout(HWND window) override;
     void OnPaint(HWND window, HDC dc) override;
 
   private:
@@ -32,13 +33,16 @@ class AboutWindow final : public ModalWindow {
 void AboutWindow::CreateControls(HWND window) {
     icon_.Reset(static_cast<HICON>(LoadImage(application.instance, MAKEINTRESOURCE(IDI_PROGRAM),
                                              IMAGE_ICON, Scale(kIconSize), ScaleY(kIconSize), 0)));
-    RECT client{};
-    GetClientRect(window, &client);
-    CreateControl(
-        window, L"BUTTON", LanguageText(IDS_OK).CStr(), WS_TABSTOP | BS_DEFPUSHBUTTON, IDOK,
-        {(client.right - Scale(kButtonWidth)) / 2, client.bottom - ScaleY(kMargin + kButtonHeight),
-         Scale(kButtonWidth), ScaleY(kButtonHeight)},
-        application.normalFont);
+    CreateControl(window, L"BUTTON", LanguageText(IDS_OK).CStr(), WS_TABSTOP | BS_DEFPUSHBUTTON,
+                  IDOK, {}, application.normalFont);
+}
+
+void AboutWindow::Layout(HWND window) {
+    const SIZE size = ClientSize(window);
+    PlaceControl(Item(window, IDOK),
+                 {(size.cx - Scale(kButtonWidth)) / 2, size.cy - ScaleY(kMargin + kButtonHeight),
+                  Scale(kButtonWidth), ScaleY(kButtonHeight)});
+    InvalidateRect(window, nullptr, TRUE);
 }
 
 void AboutWindow::OnCommand(HWND, UINT id, UINT) {

@@ -36,7 +36,7 @@ void MainMenuBar::Create(HWND parent) {
     AddButtons();
 }
 
-// The dashboard shows the same menu, with two more items that open this program.
+// The dashboard shows the same menu, with a separator and an item that opens this program.
 void MainMenuBar::TakeOutDashboardItems() const {
     constexpr UINT kPosition = 5;
     auto* menu = reinterpret_cast<HMENU>(SendMessage(window_, SHCMBM_GETMENU, 0, 0));

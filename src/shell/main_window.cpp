@@ -24,6 +24,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
+#include "ui/messages.h"
 
 namespace {
 constexpr DWORD kStyle = WS_VISIBLE | WS_CLIPSIBLINGS | 0x800;
@@ -145,10 +146,7 @@ void OnOk(HWND window) {
 }
 
 void OnCancel(HWND window) {
-    const WideString caption = LanguageText(IDS_QUIT_CAPTION);
-    const WideString question = LanguageText(IDS_QUIT_QUESTION);
-    if (MessageBox(window, question.CStr(), caption.CStr(), MB_YESNO) == IDYES)
-        DestroyWindow(window);
+    if (AskYesNo(window, IDS_QUIT_QUESTION, IDS_QUIT_CAPTION)) DestroyWindow(window);
 }
 
 LRESULT OnCommand(HWND window, UINT id) {

@@ -12,8 +12,9 @@
 namespace {
 constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_ICON | LVS_SINGLESEL |
                              LVS_AUTOARRANGE | LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER;
-// The device's list views take the upper bit for their own gradient; a PC ignores it.
-constexpr DWORD kListExtendedStyle = 0x10000000 | LVS_EX_ONECLICKACTIVATE;
+// The device's list views have no horizontal scroll bar then; a PC ignores it here.
+constexpr DWORD kNoHorizontalScrollBar = 0x10000000;
+constexpr DWORD kListExtendedStyle = kNoHorizontalScrollBar | LVS_EX_ONECLICKACTIVATE;
 constexpr COLORREF kImageMask = RGB(0, 255, 0);
 constexpr int kImageSize = 32;
 constexpr int kCaptionLimit = 512;
@@ -70,7 +71,7 @@ void PageList::AddRows() {
 // The grid that shows all pages at once: as many columns as there is room for captions, and rows
 // that share the height.
 void PageList::SpaceIcons() const {
-    constexpr int kColumnWidth = 80;
+    constexpr int kColumnWidth = 79; // Three columns at 320 pixels and 128 dpi too.
     // Not the list's own client area, which may be less a scroll bar that this makes superfluous.
     const RECT client = ClientOf(GetParent(window_));
     const int columns = std::max(1, static_cast<int>(client.right) / Scale(kColumnWidth));

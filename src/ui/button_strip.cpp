@@ -26,8 +26,8 @@ ButtonStrip::~ButtonStrip() {
 bool ButtonStrip::CreateStrip(HWND page, UINT id, HFONT font) {
     RegisterWindowClass(application.instance, WindowProc, nullptr, kButtonStripClass, WHITE_BRUSH);
     font_ = font;
-    window_ =
-        CreateControl(page, kButtonStripClass, L"", WS_TABSTOP | WS_CLIPCHILDREN, id, {}, font);
+    window_ = CreateHiddenControl(page, kButtonStripClass, L"", WS_TABSTOP | WS_CLIPCHILDREN, id,
+                                  {}, font);
     if (!window_) return false;
     SetWindowLongPtr(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     return true;

@@ -30,7 +30,7 @@ class ButtonStrip {
     ButtonStrip() = default;
     ~ButtonStrip();
 
-    // Makes the window at no place yet; false when the platform refuses.
+    // Makes the window, hidden and at no place yet; false when the platform refuses.
     bool CreateStrip(HWND page, UINT id, HFONT font);
 
     [[nodiscard]] virtual int ButtonCount() const = 0;

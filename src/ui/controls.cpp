@@ -34,6 +34,11 @@ void PlaceControl(HWND control, const ControlPlace& place) {
     MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
 }
 
+void SetTabStop(HWND control, bool isStop) {
+    const LONG style = GetWindowLong(control, GWL_STYLE) & ~WS_TABSTOP;
+    SetWindowLong(control, GWL_STYLE, isStop ? style | WS_TABSTOP : style);
+}
+
 WideString ControlText(HWND control, int limit) {
     std::vector<wchar_t> buffer(static_cast<size_t>(limit) + 1);
     GetWindowText(control, buffer.data(), limit + 1);

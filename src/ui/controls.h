@@ -34,6 +34,9 @@ void PlaceControl(HWND control, const ControlPlace& place);
     return GetDlgItem(parent, static_cast<int>(id));
 }
 
+// Whether the keys stop at a control.
+void SetTabStop(HWND control, bool isStop);
+
 // A control's whole text.
 [[nodiscard]] WideString ControlText(HWND control);
 

@@ -2,11 +2,14 @@
 
 #include <aygshell.h>
 
+#include <algorithm>
+
 #include "resource_ids.h"
 #include "shell/services/application.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/controls.h"
+#include "ui/modal_loop.h"
 
 namespace {
 constexpr UINT kLabel = 419;
@@ -30,13 +33,42 @@ constexpr DialogControl kControls[] = {
     {IDCANCEL, IDS_FILTER_NAME_CANCEL, 134, 74, 80, 22},
 };
 
+// It runs in the program's own loop: the platform's would trap the directional pad in the field.
+class FilterNameDialog final : private ModalLoop {
+  public:
+    explicit FilterNameDialog(WideString& title) : title_(title) {}
+    // True when the user has confirmed.
+    bool Run(HWND owner, const DLGTEMPLATE* form);
+
+  private:
+    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
+    bool OnKey(HWND dialog, const MSG& message) override;
+    void OnInit(HWND dialog) const;
+    void OnCommand(HWND dialog, UINT id);
+
+    WideString& title_;
+};
+
+bool FilterNameDialog::Run(HWND owner, const DLGTEMPLATE* form) {
+    return RunOver(owner, CreateDialogIndirectParam(application.instance, form, owner, DialogProc,
+                                                    reinterpret_cast<LPARAM>(this))) == IDOK;
+}
+
+// By the middle of the screen; on a low one below the navigation bar.
+void PlaceOnScreen(HWND dialog) {
+    RECT area{};
+    SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+    const int top = GetSystemMetrics(SM_CYSCREEN) / 2 - ScaleY(kAboveCentre);
+    SetWindowPos(dialog, HWND_TOPMOST, GetSystemMetrics(SM_CXSCREEN) / 2 - Scale(kLeftOfCentre),
+                 std::max(top, static_cast<int>(area.top)), Scale(kWidth), ScaleY(kHeight),
+                 SWP_SHOWWINDOW);
+}
+
 // The template's own measures follow its font; these follow the screen, in the program's font.
 void PlaceControls(HWND dialog) {
-    SetWindowPos(dialog, HWND_TOPMOST, GetSystemMetrics(SM_CXSCREEN) / 2 - Scale(kLeftOfCentre),
-                 GetSystemMetrics(SM_CYSCREEN) / 2 - ScaleY(kAboveCentre), Scale(kWidth),
-                 ScaleY(kHeight), 0);
     for (const DialogControl& control : kControls) {
-        HWND window = GetDlgItem(dialog, static_cast<int>(control.id));
+        HWND window = Item(dialog, control.id);
         MoveWindow(window, Scale(control.x), ScaleY(control.y), Scale(control.width),
                    ScaleY(control.height), FALSE);
         SendMessage(window, WM_SETFONT, reinterpret_cast<WPARAM>(application.normalFont), FALSE);
@@ -44,42 +76,57 @@ void PlaceControls(HWND dialog) {
     }
 }
 
-void OnInit(HWND dialog, const WideString& title) {
+void FilterNameDialog::OnInit(HWND dialog) const {
     PlaceControls(dialog);
-    HWND name = GetDlgItem(dialog, kName);
+    PlaceOnScreen(dialog);
+    HWND name = Item(dialog, kName);
     SendMessage(name, EM_LIMITTEXT, kNameLimit, 0);
-    SetWindowText(name, title.CStr());
+    SetWindowText(name, title_.CStr());
     SendMessage(name, EM_SETSEL, 0, -1);
     SetFocus(name);
     SipShowIM(SIPF_ON);
 }
 
-void Finish(HWND dialog, UINT id) {
-    if (id == IDOK) {
-        auto* title = reinterpret_cast<WideString*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
-        *title = ControlText(GetDlgItem(dialog, kName), kNameLimit);
-    }
-    EndDialog(dialog, id == IDOK ? 1 : 0);
+// Enter behind the name is OK.
+bool FilterNameDialog::OnKey(HWND dialog, const MSG& message) {
+    if (message.wParam != VK_RETURN || message.hwnd != Item(dialog, kName)) return false;
+    OnCommand(dialog, IDOK);
+    return true;
 }
 
-INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+void FilterNameDialog::OnCommand(HWND dialog, UINT id) {
+    if (id == IDOK) title_ = ControlText(Item(dialog, kName), kNameLimit);
+    if (id == IDOK || id == IDCANCEL) Finish(static_cast<int>(id));
+}
+
+INT_PTR FilterNameDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
     switch (message) {
     case WM_INITDIALOG:
-        SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
-        OnInit(dialog, *reinterpret_cast<const WideString*>(lParam));
+        OnInit(dialog);
         return FALSE; // The focus is set.
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSTATIC:
         return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
+    case WM_DISPLAYCHANGE:
+        PlaceOnScreen(dialog);
+        return TRUE;
     case WM_COMMAND:
-        if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) Finish(dialog, LOWORD(wParam));
+        OnCommand(dialog, LOWORD(wParam));
         return TRUE;
     case WM_DESTROY: // Also where it goes with its owner.
         SipShowIM(SIPF_OFF);
+        OnDestroyed();
         return TRUE;
     default:
         return FALSE;
     }
+}
+
+INT_PTR CALLBACK FilterNameDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
+                                              LPARAM lParam) {
+    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
+    auto* self = reinterpret_cast<FilterNameDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
+    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
 }
 } // namespace
 
@@ -87,9 +134,8 @@ bool AskFilterName(HWND owner, WideString& title) {
     HMODULE library = application.languageLibrary;
     if (!library) return false;
     HRSRC found = FindResource(library, MAKEINTRESOURCE(IDD_FILTER_NAME), RT_DIALOG);
-    // The device dialogs are made from a template in memory only. A loaded resource is its bytes.
-    auto* form = found ? static_cast<const DLGTEMPLATE*>(LoadResource(library, found)) : nullptr;
-    if (!form) return false;
-    return DialogBoxIndirectParam(application.instance, form, owner, DialogProc,
-                                  reinterpret_cast<LPARAM>(&title)) == 1;
+    if (!found) return false;
+    // The device makes dialogs from templates in memory only; a loaded resource is its bytes.
+    const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(library, found));
+    return form && FilterNameDialog(title).Run(owner, form);
 }

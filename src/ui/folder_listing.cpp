@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "shell/services/handles.h"
+#include "shell/services/text_order.h"
 #include "ui/file_name.h"
 
 namespace {
@@ -15,9 +16,7 @@ bool IsDots(const wchar_t* name) {
 }
 
 void Sort(std::vector<WideString>& names) {
-    std::sort(names.begin(), names.end(), [](const WideString& left, const WideString& right) {
-        return lstrcmpi(left.CStr(), right.CStr()) < 0;
-    });
+    std::sort(names.begin(), names.end(), TextOrder());
 }
 } // namespace
 

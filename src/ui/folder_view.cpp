@@ -11,6 +11,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/controls.h"
+#include "ui/list_items.h"
 
 namespace {
 constexpr int kButtonWidth = 108;
@@ -73,9 +74,7 @@ void FolderView::CreateList() {
                 LVS_EX_FULLROWSELECT | LVS_EX_ONECLICKACTIVATE);
     images_ = LoadImageStrip(IDB_FILE_IMAGES, Scale(kImageSize, true), kImageMask);
     SendMessage(list, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.Get()));
-    LVCOLUMN column{};
-    column.mask = LVCF_WIDTH;
-    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+    AddColumn(list);
 }
 
 void FolderView::Layout(int listTop) const {
@@ -136,8 +135,7 @@ void FolderView::Fill() {
     SendMessage(list, WM_SETREDRAW, TRUE, 0);
     const bool isEmpty = listing_.names.empty();
     // An empty list cannot show that it has the focus, so the keys pass over it.
-    const LONG style = GetWindowLong(list, GWL_STYLE) & ~WS_TABSTOP;
-    SetWindowLong(list, GWL_STYLE, isEmpty ? style : style | WS_TABSTOP);
+    SetTabStop(list, !isEmpty);
     ShowWindow(Item(kEmptyText), isEmpty ? SW_SHOW : SW_HIDE);
     EnableWindow(Item(kUpButton), !folder_.IsEmpty());
     ShowPath();

@@ -65,8 +65,8 @@ void IconChooser::Create(HWND page, HFONT font, const IconChooserKind& kind, uin
             all |= flag.flag;
         value_ &= all;
     }
-    label_ = CreateControl(page, L"STATIC", LanguageText(kind.text).CStr(), SS_RIGHT, kind.labelId,
-                           {}, font);
+    label_ = CreateHiddenControl(page, L"STATIC", LanguageText(kind.text).CStr(), SS_RIGHT,
+                                 kind.labelId, {}, font);
     if (!CreateStrip(page, kind.id, font) || kind.choice == IconChoice::Set) return;
     if (marker_.Create(Window())) marker_.Show(EntryFlag(ChosenEntry()));
 }

@@ -40,8 +40,8 @@ class IconChooser final : private ButtonStrip {
     static constexpr int kPitch = 24;
     static constexpr int kButtonWidth = 21;
 
-    // Makes the label and the buttons, at no place yet, showing `value`. A value that is none of
-    // the flags shows as none; bits of a set that are no flag's do not count.
+    // Makes the label and the buttons, hidden and at no place yet, showing `value`. A value that is
+    // none of the flags shows as none; bits of a set that are no flag's do not count.
     void Create(HWND page, HFONT font, const IconChooserKind& kind, uint32_t value);
 
     // Places label and buttons in pixels of the page. A set needs a button's width for each flag.

@@ -102,9 +102,7 @@ void ImagePicker::CreateList(HWND window) {
     SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     SendMessage(list, LVM_SETIMAGELIST, LVSIL_SMALL,
                 reinterpret_cast<LPARAM>(thumbnails_.Images()));
-    LVCOLUMN column{};
-    column.mask = LVCF_WIDTH;
-    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+    AddColumn(list);
     SendMessage(list, LVM_SETITEMCOUNT, static_cast<WPARAM>(IconCount()), 0);
 }
 

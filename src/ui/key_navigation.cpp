@@ -79,11 +79,29 @@ void GiveFocus(HWND control) {
     if (kind == ControlKind::Edit) SendMessage(control, EM_SETSEL, 0, -1);
 }
 
+// A list of rows leaves Left and Right to the keys: they part from it with its row selected.
+bool IsListOfRows(HWND control) {
+    return KindOf(control) == ControlKind::ListView &&
+           (GetWindowLong(control, GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT;
+}
+
+// The arrow keys select each row that they come to, but the one that they enter a list by.
+void SelectMarkedRow(HWND list) {
+    if (SendMessage(list, LVM_GETSELECTEDCOUNT, 0, 0) > 0) return;
+    const LRESULT row = SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+    LVITEM item{};
+    item.state = item.stateMask = LVIS_SELECTED;
+    if (row >= 0)
+        SendMessage(list, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                    reinterpret_cast<LPARAM>(&item));
+}
+
 void MoveFocus(HWND root, HWND control, bool forward) {
     for (HWND next = NextInRing(root, control, forward); next && next != control;
          next = NextInRing(root, next, forward)) {
         if (TakesFocus(next)) {
             GiveFocus(next);
+            if (IsListOfRows(next)) SelectMarkedRow(next);
             return;
         }
     }
@@ -178,6 +196,10 @@ bool OnLeftOrRight(HWND root, HWND control, HWND focus, bool forward) {
         return true;
     case ControlKind::ColourSurface:
         return OnSurfaceKey(root, control, forward ? VK_RIGHT : VK_LEFT);
+    case ControlKind::ListView:
+        if (!IsListOfRows(control)) return false;
+        MoveFocus(root, control, forward);
+        return true;
     case ControlKind::Button:
         MoveFocus(root, control, forward);
         return true;
@@ -191,6 +213,8 @@ bool OnEnter(HWND control) {
     case ControlKind::Button:
     case ControlKind::ButtonStrip:
         SendMessage(control, BM_CLICK, 0, 0);
+        // A PC's box that changes draws itself without its focus.
+        InvalidateRect(control, nullptr, TRUE);
         return true;
     case ControlKind::Combo:
         SendMessage(control, CB_SHOWDROPDOWN, TRUE, 0);

@@ -118,6 +118,12 @@ void ResetList(HWND list) {
     SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
 }
 
+void AddColumn(HWND list) {
+    LVCOLUMN column{};
+    column.mask = LVCF_WIDTH;
+    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+}
+
 void FitColumn(HWND list) {
     // A narrow column takes the scroll bar below away; what remains is the room.
     SendMessage(list, LVM_SETCOLUMNWIDTH, 0, 1);
@@ -171,6 +177,11 @@ bool IsRowTicked(HWND list, int row) {
 void TickRow(HWND list, int row, bool ticked) {
     SetRowState(list, row, INDEXTOSTATEIMAGEMASK(ticked ? kTickedImage : kTickedImage - 1),
                 LVIS_STATEIMAGEMASK);
+}
+
+void ToggleFocusedRow(HWND list) {
+    const int row = FocusedRow(list);
+    if (row >= 0) TickRow(list, row, !IsRowTicked(list, row));
 }
 
 int SelectedRow(HWND list) {

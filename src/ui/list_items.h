@@ -15,6 +15,9 @@ void FitColumn(HWND list);
 // Empties a list view and gives it its one column anew.
 void ResetList(HWND list);
 
+// Gives a list view of another kind its one column, which has no title and no width yet.
+void AddColumn(HWND list);
+
 // Adds a row at the end or before another, with a number or a pointer as its data.
 void AddRow(HWND list, const wchar_t* text, LPARAM data = 0);
 void InsertRow(HWND list, int row, const wchar_t* text, LPARAM data = 0);
@@ -26,6 +29,8 @@ void InsertRow(HWND list, int row, const wchar_t* text, LPARAM data = 0);
 void AddTickBoxes(HWND list);
 [[nodiscard]] bool IsRowTicked(HWND list, int row);
 void TickRow(HWND list, int row, bool ticked);
+// For NM_RETURN: devices have no space bar, the one key by which a list view ticks a row itself.
+void ToggleFocusedRow(HWND list);
 
 // −1 for none.
 [[nodiscard]] int SelectedRow(HWND list);

@@ -64,10 +64,10 @@ void OptionDetailPanel::Create(HWND page, HFONT font, UINT firstId, int top) {
     firstId_ = firstId;
     top_ = top;
     for (UINT i = 0; i < kIdCount; ++i)
-        CreateControl(page, rows[i].className, rows[i].text, rows[i].style, firstId + i, {}, font);
+        CreateHiddenControl(page, rows[i].className, rows[i].text, rows[i].style, firstId + i, {},
+                            font);
     SendMessage(Control(TextEdit), EM_LIMITTEXT, kTextLimit, 0);
     Place();
-    Hide();
 }
 
 void OptionDetailPanel::Place() const {

@@ -78,7 +78,7 @@ void RowLayout::AddPath(UINT firstId, const wchar_t* label, int limit) {
     const int browse = right - buttonWidth;
     const int clear = browse - Scale(kPathGap) - buttonWidth;
     const int height = ScaleY(kControlHeight);
-    Put(L"STATIC", label, SS_LEFT, firstId, {left, y_, right - left, height});
+    Put(L"STATIC", label, SS_LEFT, firstId, {left, y_, right - left, ScaleY(kPathLabelPitch)});
     Skip(kPathLabelPitch);
     PutEdit(firstId + 1, limit, {left, y_, clear - Scale(kPathGap) - left, height});
     Put(L"BUTTON", LanguageText(IDS_CLEAR).CStr(), WS_TABSTOP, firstId + 2,

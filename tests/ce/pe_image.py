@@ -171,7 +171,7 @@ def header_faults(image, is_library):
     expected = {
         "machine": (image.machine, MACHINE_ARM),
         "magic number": (image.field(0, "<H"), 0x10B),
-        "image base": (image.base, 0x10000),
+        "image base": (image.base, 0x10000000 if is_library else 0x10000),
         "section alignment": (image.field(32), 0x1000),
         "file alignment": (image.field(36), 0x200),
         "subsystem version": (struct.unpack_from("<HH", image.content, image.optional + 48), (4, 20)),
@@ -220,6 +220,11 @@ def section_faults(image, is_library):
         yield f"the file takes {len(image.content):#x}, not {offset:#x}"
 
 
+def section_may_be_written(image, rva):
+    section = image.section_at(rva, 4)
+    return section is not None and section.flags & WRITE
+
+
 def import_faults(image, calls, is_library):
     """`calls` holds the pairs of library and name or ordinal that the device has."""
     found = list(image.imports())
@@ -230,7 +235,7 @@ def import_faults(image, calls, is_library):
     for library, call, slot in found:
         if (library, call) not in calls:
             yield f"{library} of the device has no {call}"
-        if not start <= slot < start + size or not image.section_at(slot, 4).flags & WRITE:
+        if not start <= slot < start + size or not section_may_be_written(image, slot):
             yield f"the slot of {call} is not in the table that the loader fills"
         if (library, call) in slots:
             yield f"{call} is imported twice"
@@ -269,15 +274,40 @@ def resource_faults(image, is_library):
             yield f"resource {resource.type} {resource.name} is empty"
 
 
+def rebase_faults(image, elsewhere):
+    """`elsewhere` is the same program, linked for another place. Moved there, `image` must be the same."""
+    relocations = list(image.relocations())
+    if relocations != list(elsewhere.relocations()) or image.base == elsewhere.base:
+        yield "the program linked for another place has other relocations"
+    for section, other in zip(image.sections[:3], elsewhere.sections[:3]):
+        moved = bytearray(image.bytes_of(section))
+        for rva in relocations:
+            at = rva - section.rva
+            if 0 <= at < section.size:
+                value = struct.unpack_from("<I", moved, at)[0] + elsewhere.base - image.base
+                struct.pack_into("<I", moved, at, value & 0xFFFFFFFF)
+        there = elsewhere.bytes_of(other)
+        if moved != there:
+            at = next((i for i, (one, two) in enumerate(zip(moved, there)) if one != two), len(there))
+            yield f"moved elsewhere, {section.name} differs at {section.rva + at:#x}"
+
+
 def faults(content, calls, is_library):
     """What is wrong with the file, as sentences."""
+    found = []
     try:
         image = Image(content)
-        return [*header_faults(image, is_library), *section_faults(image, is_library),
-                *import_faults(image, calls, is_library), *relocation_faults(image, is_library),
-                *resource_faults(image, is_library)]
-    except (Malformed, struct.error, AttributeError) as error:
+        checks = (header_faults(image, is_library), section_faults(image, is_library),
+                  import_faults(image, calls, is_library), relocation_faults(image, is_library),
+                  resource_faults(image, is_library))
+    except (Malformed, struct.error) as error:
         return [f"cannot be read: {error}"]
+    for check in checks:
+        try:
+            found.extend(check)
+        except (Malformed, struct.error) as error:
+            found.append(f"cannot be read: {error}")
+    return found
 
 
 def read_calls(path):

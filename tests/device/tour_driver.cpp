@@ -39,6 +39,7 @@ constexpr int kPim = 9;
 constexpr UINT kRemoveFolder = 1216;
 constexpr int kTabs = 10;
 constexpr UINT kSkinBrowse = 1214;
+constexpr UINT kLanguage = 1216;
 constexpr UINT kTabList = 1206;
 constexpr UINT kAddTab = 1209;
 constexpr UINT kPluginList = 473;
@@ -76,8 +77,12 @@ void ShowDialogOf(const Program& program, HWND button, const wchar_t* className,
     }
 }
 
-void ShowDialogs(const Program& program, HWND page) {
+// The folder dialog, and each language by its own name.
+void ShowAppearance(const Program& program, HWND page) {
     ShowDialogOf(program, GetDlgItem(page, kSkinBrowse), L"SelectFolderWin", "dialog-folder");
+    TapOn(GetDlgItem(page, kLanguage));
+    Show("general-languages");
+    Press(VK_ESCAPE);
 }
 
 // The menu of the first chooser and the tooltip of a button, both reached by keys.
@@ -254,7 +259,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         char name[64];
         std::snprintf(name, sizeof(name), "page-%02d-%s-%d", row, kPages[row].name, tab + 1);
         Show(name);
-        if (row == kGeneral && tab == 1) ShowDialogs(program, page);
+        if (row == kGeneral && tab == 1) ShowAppearance(program, page);
         if (row == kCalendar) ShowOptions(tab);
         if (row == kCalendar && tab == 3) ShowOpenChoice();
         if (row == kTabs && tab == 1) ShowAddTab(program, page);

@@ -307,20 +307,4 @@ TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     Close();
 }
 
-TEST_F(TasksPageTest, PlacesItsRowsAgainWhenTheScreenTurns) {
-    HWND window = OpenIcons(0, 0, 383);
-    const auto place = [window](int id) {
-        RECT rect{};
-        GetWindowRect(GetDlgItem(window, id), &rect);
-        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
-    };
-    EXPECT_GT(place(kLeft2).top, place(kLeft1).top);
-    MoveWindow(window, 0, Scale(26), Scale(320), Scale(188), FALSE);
-    EXPECT_EQ(place(kLeft2).top, place(kLeft1).top) << "side by side";
-    EXPECT_GT(place(kLeft2).left, place(kLeft1).right);
-    EXPECT_EQ(place(1201).right, Scale(310)) << "at the right edge of the wider page";
-    EXPECT_EQ(place(1204).right, Scale(310));
-    Close();
-}
 } // namespace

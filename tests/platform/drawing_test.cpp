@@ -2,7 +2,10 @@
 
 #include "temp_file.h"
 
+#include <algorithm>
 #include <cstring>
+#include <cwchar>
+#include <string>
 
 namespace {
 
@@ -86,6 +89,49 @@ std::string BitmapFileBytes(WORD depth, DWORD headerSize) {
     const std::string rows = depth == 8 ? '\1' + std::string(7, '\0') : ink + std::string(20, '\0');
     return std::string(reinterpret_cast<const char*>(&file), sizeof file) +
            std::string(reinterpret_cast<const char*>(&header), headerSize) + colors + rows;
+}
+
+// What lies to the left of a text's last pixel.
+int DrawnWidth(const Canvas& canvas, int width, int height) {
+    for (int x = width - 1; x >= 0; --x) {
+        for (int y = 0; y < height; ++y) {
+            if ((canvas.pixels[y * width + x] & 0xFFFFFF) != 0xFFFFFF) return x + 1;
+        }
+    }
+    return 0;
+}
+
+// Texts are laid out by their measure: drawn wider, a label at the right loses its last letters.
+TEST(DrawingTest, TextIsAsWideAsItMeasures) {
+    constexpr int kWidth = 500;
+    constexpr int kHeight = 40;
+    // The gap after the last letter, and widths that cannot be right for all sizes at once.
+    constexpr int kMostOver = 6;
+    for (const LONG size : {12, 13, 24}) {
+        for (const LONG weight : {FW_NORMAL, FW_BOLD}) {
+            LOGFONTW description = {};
+            description.lfHeight = size;
+            description.lfWeight = weight;
+            wcscpy(description.lfFaceName, L"Tahoma");
+            HFONT font = CreateFontIndirectW(&description);
+            for (const std::wstring text :
+                 {L"Look at words as they were took", L"Показывать это окно под другим"}) {
+                const Canvas canvas(kWidth, kHeight);
+                std::fill_n(canvas.pixels, kWidth * kHeight, 0xFFFFFFu);
+                HGDIOBJ previous = SelectObject(canvas.dc, font);
+                SIZE measured = {};
+                GetTextExtentPoint32W(canvas.dc, text.c_str(), static_cast<int>(text.size()),
+                                      &measured);
+                TextOutW(canvas.dc, 0, 0, text.c_str(), static_cast<int>(text.size()));
+                GdiFlush();
+                SelectObject(canvas.dc, previous);
+                const int drawn = DrawnWidth(canvas, kWidth, kHeight);
+                EXPECT_LE(drawn, measured.cx) << size << " " << weight;
+                EXPECT_GE(drawn + kMostOver, measured.cx) << size << " " << weight;
+            }
+            DeleteObject(font);
+        }
+    }
 }
 
 TEST(DrawingTest, WholeBitmapFilesLoad) {

@@ -4,6 +4,7 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 
 #include "files/icon_set.h"
@@ -11,6 +12,7 @@
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
 #include "shell/services/application.h"
+#include "shell/services/image_strip.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
@@ -262,6 +264,28 @@ TEST_F(MainWindowTest, ClosedFromOutsideWithAPageOpenSavesNothing) {
     EXPECT_FALSE(PumpMessages());
     EXPECT_EQ(timesTold, 0);
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"GoofyMode"));
+}
+
+TEST_F(MainWindowTest, TheToolsMenuHasNothingOfTheDashboardsAndEndsWithAbout) {
+    Start();
+    auto* menu = reinterpret_cast<HMENU>(SendMessage(SHFindMenuBar(window_), SHCMBM_GETMENU, 0, 0));
+    HMENU tools = GetSubMenu(menu, 1);
+    const UINT wanted[] = {IDC_EXPORT_BACKUP, 0, IDC_IMPORT_BACKUP, 0, IDC_ABOUT};
+    ASSERT_EQ(GetMenuItemCount(tools), static_cast<int>(std::size(wanted)));
+    for (int i = 0; i < static_cast<int>(std::size(wanted)); ++i)
+        EXPECT_EQ(GetMenuItemID(tools, i), wanted[i]) << i;
+}
+
+// 128 dpi take the images of 96 dpi and have larger places for them.
+TEST_F(MainWindowTest, StretchesTheImagesOfTheMenuBarToAnySize) {
+    Start();
+    const UniqueImageList images = LoadImageStrip(IDB_MENU_BAR, 21, RGB(0xDE, 0xCF, 0xC6));
+    ASSERT_EQ(ImageList_GetImageCount(images.Get()), 2);
+    int width = 0;
+    int height = 0;
+    ImageList_GetIconSize(images.Get(), &width, &height);
+    EXPECT_EQ(width, 21);
+    EXPECT_EQ(height, 21);
 }
 
 TEST_F(MainWindowTest, StartsWithoutAnyLibrary) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "shell/services/application.h"
+#include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/window_support.h"
 
@@ -29,8 +30,10 @@ class FileDialogTest : public testing::Test {
             CreateDirectory(folder, nullptr);
         for (const wchar_t* file : kFiles)
             CloseHandle(CreateFile(file, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-        owner_ = CreateWindowEx(0, L"Static", L"Owner", WS_POPUP | WS_VISIBLE, 0, 26, 240, 268,
-                                nullptr, nullptr, application.instance, nullptr);
+        SetVgaMode(false); // As at start, by the screen's density.
+        owner_ = CreateWindowEx(0, L"Static", L"Owner", WS_POPUP | WS_VISIBLE, 0, Scale(26),
+                                Scale(240), Scale(268), nullptr, nullptr, application.instance,
+                                nullptr);
     }
     void TearDown() override {
         DestroyWindow(owner_);

@@ -111,18 +111,6 @@ TEST_F(KeyNavigation, TabGoesRoundPastHiddenAndDisabledControls) {
     }
 }
 
-TEST_F(KeyNavigation, DownAndUpLeaveEveryControlAndListsAtTheirEdges) {
-    // The list keeps Down for its second row.
-    for (UINT expected : {kCombo, kEditCombo, kList, kList, kButton, 100u, kFirstBox}) {
-        Press(VK_DOWN);
-        EXPECT_EQ(Focused(), expected);
-    }
-    for (UINT expected : {100u, kButton, kList, kList, kEditCombo, kCombo, kFirstBox}) {
-        Press(VK_UP);
-        EXPECT_EQ(Focused(), expected);
-    }
-}
-
 TEST_F(KeyNavigation, LeftAndRightChooseOnAClosedListAndTellThePage) {
     HWND combo = GetDlgItem(root_, kCombo);
     SetFocus(combo);

@@ -2,8 +2,8 @@
 import collections
 import struct
 
-# Where executables of the device lie.
-IMAGE_BASE = 0x10000
+# Where a program lies, and where a library asks to.
+PROGRAM_BASE, LIBRARY_BASE = 0x10000, 0x10000000
 SECTION_ALIGNMENT, FILE_ALIGNMENT = 0x1000, 0x200
 MACHINE_ARM, SUBSYSTEM_WINDOWS_CE = 0x1C0, 9
 SYSTEM_VERSION = (4, 20)
@@ -59,7 +59,7 @@ def checksum(content):
     return total + len(content)
 
 
-def write_image(sections, directories, entry_rva, is_library, image_base=IMAGE_BASE):
+def write_image(sections, directories, entry_rva, is_library, image_base):
     """The whole file. `directories` maps a directory's number to its rva and size."""
     header_size = aligned(DOS_HEADER_SIZE + struct.calcsize(FILE_HEADER) + struct.calcsize(OPTIONAL_HEADER)
                           + 8 * DIRECTORY_COUNT + struct.calcsize(SECTION_HEADER) * len(sections), FILE_ALIGNMENT)

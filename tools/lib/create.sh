@@ -11,7 +11,7 @@ fonts=(courier fixedsys marlett ms_sans_serif small_fonts symbol system tahoma w
 # of which every device gets copies.
 make_pristine() {
     local stamp new log font
-    stamp="$("$wine_loader" --version), recipe 2"
+    stamp="$("$wine_loader" --version), recipe 3"
     [ "$(cat "$pristine/stamp" 2>/dev/null || true)" != "$stamp" ] || return 0
     new="$pristine.new"
     log="$pristine.log"
@@ -28,6 +28,8 @@ make_pristine() {
     for font in "${fonts[@]}"; do
         cp "/usr/share/wine/fonts/$font.ttf" "$new/linked/drive_c/windows/Fonts/"
     done
+    "$root/tools/lib/fit_font.py" /usr/share/wine/fonts/tahoma.ttf \
+        "$new/linked/drive_c/windows/Fonts/tahoma.ttf"
     (
         cd "$new/linked"
         find . -type f \( -size -64k -o -name '*.reg' \) -print0 |

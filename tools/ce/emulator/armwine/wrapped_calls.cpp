@@ -45,8 +45,30 @@ uint32_t PassOnWrapped(const char* name, Words words, int index, int procedureWo
 
 constexpr int kProcedureWords = 4;
 
+// The number of a system colour carries a mark on the device, as does one in a brush's place.
+uint32_t WithoutMark(uint32_t colour) {
+    constexpr uint32_t kMark = 0x40000000;
+    constexpr uint32_t kBehindLast = kMark + 64;
+    return colour >= kMark && colour < kBehindLast ? colour - kMark : colour;
+}
+
+uint64_t WrappedGetSysColor(Words words) {
+    return GetSysColor(WithoutMark(words[0]));
+}
+
+uint64_t WrappedGetSysColorBrush(Words words) {
+    return reinterpret_cast<uint32_t>(GetSysColorBrush(WithoutMark(words[0])));
+}
+
+uint64_t WrappedFillRect(Words words) {
+    return FillRect(As<HDC>(words[0]), As<const RECT*>(words[1]),
+                    As<HBRUSH>(WithoutMark(words[2])));
+}
+
 uint64_t WrappedRegisterClass(Words words) {
     WNDCLASSW windowClass = *As<const WNDCLASSW*>(words[0]);
+    windowClass.hbrBackground =
+        As<HBRUSH>(WithoutMark(reinterpret_cast<uint32_t>(windowClass.hbrBackground)));
     windowClass.lpfnWndProc = Wrapped(windowClass.lpfnWndProc, kProcedureWords);
     return RegisterClassW(&windowClass);
 }
@@ -192,6 +214,9 @@ struct WrappedCall {
 };
 const WrappedCall kCalls[] = {
     {"RegisterClassW", WrappedRegisterClass},
+    {"GetSysColor", WrappedGetSysColor},
+    {"GetSysColorBrush", WrappedGetSysColorBrush},
+    {"FillRect", WrappedFillRect},
     {"SetWindowLongW", WrappedSetWindowLong},
     {"CreateDialogIndirectParamW", WrappedCreateDialogIndirectParam},
     {"DialogBoxIndirectParamW", WrappedDialogBoxIndirectParam},
