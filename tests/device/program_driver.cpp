@@ -36,8 +36,20 @@ BOOL CALLBACK MatchWindow(HWND window, LPARAM lParam) {
     return FALSE;
 }
 
+// What runs the program, where the device's tool says that something has to: a word of the command
+// line and a blank.
+std::wstring Runner() {
+    wchar_t path[MAX_PATH];
+    const DWORD length = GetEnvironmentVariable(L"OVDEVICE_RUNNER", path, MAX_PATH);
+    return length > 0 && length < MAX_PATH ? std::wstring(path) + L" " : L"";
+}
+
 DashboardListener* currentListener;
 } // namespace
+
+bool IsEmulated() {
+    return !Runner().empty();
+}
 
 bool WaitUntil(const std::function<bool()>& condition) {
     for (int waited = 0; waited < kWaitMilliseconds; waited += kPollMilliseconds) {
@@ -80,7 +92,7 @@ void Press(WORD key) {
 }
 
 Program::Program(const std::wstring& arguments) {
-    std::wstring line = L"\"" + std::wstring(kInstallFolder) + L"\\OVOptions.exe\"";
+    std::wstring line = Runner() + L"\"" + kInstallFolder + L"\\OVOptions.exe\"";
     if (!arguments.empty()) line += L" " + arguments;
     STARTUPINFO startup{};
     startup.cb = sizeof(startup);

@@ -14,6 +14,9 @@
 inline constexpr wchar_t kSettingsKey[] = L"Software\\Teskel\\Orvane";
 inline constexpr wchar_t kInstallFolder[] = L"\\Program Files\\Teskel\\Orvane";
 
+// Whether the program runs on an emulated processor, which takes its time.
+bool IsEmulated();
+
 // Looks until the condition holds, at most ten seconds.
 bool WaitUntil(const std::function<bool()>& condition);
 

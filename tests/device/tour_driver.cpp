@@ -55,8 +55,9 @@ constexpr int kRedEdit = 126;
 constexpr int kHtmlEdit = 130;
 
 void Show(const char* name) {
-    constexpr DWORD kPaintTime = 150; // Milliseconds; paints come when all else is done.
-    Sleep(kPaintTime);
+    // Milliseconds; paints come when all else is done.
+    const DWORD paintTime = IsEmulated() ? 600 : 150;
+    Sleep(paintTime);
     std::printf("%s\n", name);
     std::fflush(stdout);
     char answer[16];

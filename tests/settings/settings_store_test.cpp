@@ -134,7 +134,8 @@ TEST_F(SettingsStoreTest, SaveRepairsTheHeightsAndThePinnedMonth) {
     }
     const auto limit = static_cast<uint32_t>(Scale(200));
     for (const uint32_t pinned : {1U, 2U}) {
-        for (const uint32_t height : {0U, limit - 1, limit, 0xFFFFFFFFU}) {
+        for (const uint32_t height :
+             std::initializer_list<uint32_t>{0, limit - 1, limit, 0xFFFFFFFF}) {
             const auto store = LoadStore();
             store->dHeightLimit.Set(height);
             store->PinnedMonthlyClr.Set(pinned);

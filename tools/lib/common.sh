@@ -1,8 +1,25 @@
 # What the tools share: places, messages, waiting. Sourced by bash with set -eu.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
-wine_loader=/usr/lib/wine/wine64
-wine_server=/usr/lib/wine/wineserver64
+
+# choose_wine MACHINE: the Wine on which a device of that kind runs. An "arm" one runs the device's own
+# build, on an emulated processor; that takes a Wine of 32 bits, which has a root of its own.
+choose_wine() {
+    case $1 in
+    pc)
+        wine_loader=/usr/lib/wine/wine64
+        wine_server=/usr/lib/wine/wineserver64
+        wine_arch=win64
+        ;;
+    arm)
+        wine_loader="$root/tools/ce/i386/wine"
+        wine_server="$root/tools/ce/i386/wineserver"
+        wine_arch=win32
+        ;;
+    *) die "a device's machine is pc or arm: $1" ;;
+    esac
+}
+choose_wine pc
 
 die() {
     echo "${0##*/}: $*" >&2

@@ -1,8 +1,6 @@
 # Making a device: a Wine prefix from the pristine one, its registry, the program, the sample data.
 
 pristine="$root/build/pristine"
-program_dir="${OVDEVICE_PROGRAM_DIR:-$root/build/pc/device}"
-install_dir="drive_c/Program Files/Teskel/Orvane"
 
 # The device's fonts. Without Wine's Tahoma Bold, which is bold only in sizes up to 14 pixels: Wine
 # makes a bold of every size from Tahoma itself.
@@ -16,11 +14,11 @@ make_pristine() {
     stamp="$("$wine_loader" --version), recipe 3"
     [ "$(cat "$pristine/stamp" 2>/dev/null || true)" != "$stamp" ] || return 0
     new="$pristine.new"
-    log="$root/build/pristine.log"
+    log="$pristine.log"
     rm -rf "$new"
     mkdir -p "$new/linked" "$new/own"
     echo "device: preparing Wine, once (some ten seconds)" >&2
-    env -u DISPLAY -u WINELOADER -u WINESERVER WINEPREFIX="$new/linked" WINEARCH=win64 \
+    env -u DISPLAY -u WINELOADER -u WINESERVER WINEPREFIX="$new/linked" WINEARCH=$wine_arch \
         WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d" \
         timeout 300 "$wine_loader" wineboot -i 8>&- </dev/null >"$log" 2>&1 ||
         die "Wine could not make a prefix; see $log"
@@ -63,12 +61,23 @@ copy_pristine() {
             cp -a "$pristine/linked" "$1"
         fi
         cp -a "$pristine/own/." "$1/"
-    ) 8>"$root/build/pristine.lock"
+    ) 8>"$pristine.lock"
 }
 
-# install_program DIR: puts the built program on a device, over an older one.
+# install_program DIR: puts the built program on a device, over an older one. What the program takes
+# from the system lies beside it on a PC, and where the system keeps its own on an ARM device.
 install_program() {
-    local to="$1/prefix/$install_dir"
+    local to="$1/prefix/$install_dir" program_dir library
+    if [ "$machine" = arm ]; then
+        program_dir="${OVDEVICE_PROGRAM_DIR:-$root/build/arm/device}"
+        for library in coredll aygshell imaging; do
+            cp --remove-destination "$root/build/pc32/device/$library.dll" \
+                "$1/prefix/drive_c/windows/system32/"
+        done
+        cp --remove-destination "$root/build/armwine/armwine.exe.so" "$1/prefix/drive_c/windows/"
+    else
+        program_dir="${OVDEVICE_PROGRAM_DIR:-$root/build/pc/device}"
+    fi
     [ -f "$program_dir/OVOptions.exe" ] ||
         die "no program in $program_dir; build it: cmake --preset pc && cmake --build --preset pc"
     mkdir -p "$to"/{Schemes,Icons,CategoryIcons,CustomAlphabets,Skins}
@@ -81,6 +90,7 @@ install_program() {
 install_on_device() {
     load_device "$@"
     ! is_up || ! program_has_window || die "the program runs on $dir; end it first"
+    machine=$device_machine
     install_program "$dir"
 }
 
@@ -182,9 +192,9 @@ install_sample() {
     done <"$sample/category-icons/names.txt"
 }
 
-# create DIR [--screen WxH] [--dpi N] [--locale NAME] [--os V] [--empty]
+# create DIR [--screen WxH] [--dpi N] [--locale NAME] [--os V] [--arm] [--empty]
 create_device() {
-    local screen=240x320 dpi=96 locale=en_US os=5.1 empty=no
+    local screen=240x320 dpi=96 locale=en_US os=5.1 empty=no machine=pc
     [ $# -ge 1 ] || usage
     dir=$1
     shift
@@ -196,6 +206,7 @@ create_device() {
             shift
             ;;
         --empty) empty=yes ;;
+        --arm) machine=arm ;;
         *) usage ;;
         esac
         shift
@@ -205,6 +216,10 @@ create_device() {
     [[ $locale =~ ^[a-z]{2,3}_[A-Z]{2}$ ]] || die "--locale is like de_DE: $locale"
     [[ $os =~ ^(4\.20|5\.1)$ ]] || die "--os is 4.20 or 5.1: $os"
     [ -z "$(ls -A "$dir" 2>/dev/null)" ] || die "$dir is there already"
+    if [ $machine = arm ]; then
+        choose_wine arm
+        pristine+=-i386
+    fi
     mkdir -p "$dir/run"
     dir=$(cd "$dir" && pwd)
     trap 'rm -rf "$dir"' EXIT
@@ -225,6 +240,7 @@ screen=$screen
 dpi=$dpi
 locale=$locale
 os=$os
+machine=$machine
 wine=$("$wine_loader" --version)
 END
     trap - EXIT

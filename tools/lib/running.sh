@@ -1,21 +1,28 @@
 # A running device: its screen, Wine's server and desktop, programs on it.
 
 installed_program='C:\Program Files\Teskel\Orvane\OVOptions.exe'
+install_dir="drive_c/Program Files/Teskel/Orvane"
+# Where an ARM device has what runs programs on an emulated processor.
+arm_loader='C:\windows\armwine.exe.so'
 
 load_device() {
     [ $# -ge 1 ] || usage
     [ -f "$1/device.conf" ] || die "$1 is no device; make one: tools/device create $1"
     dir=$(cd "$1" && pwd)
     run="$dir/run"
+    device_machine=pc
     local key value
     while IFS='=' read -r key value; do
         printf -v "device_$key" %s "$value"
     done <"$dir/device.conf"
+    choose_wine "$device_machine"
+    local runner=
+    [ "$device_machine" != arm ] || runner=$arm_loader
     environment=(
         -u WINEARCH -u WINELOADER -u WINESERVER -u WINEDLLPATH -u WINEDLLOVERRIDES -u LANGUAGE
         WINEPREFIX="$dir/prefix" WINEDEBUG="${WINEDEBUG:--all}"
         WINEPATH='C:\Program Files\Teskel\Orvane' OVDEVICE_OS="$device_os"
-        LC_ALL="$device_locale.UTF-8" LOCPATH="$run/locale" FONTCONFIG_FILE="$run/fonts.conf"
+        OVDEVICE_RUNNER="$runner" LC_ALL="$device_locale.UTF-8" LOCPATH="$run/locale" FONTCONFIG_FILE="$run/fonts.conf"
     )
 }
 
@@ -86,7 +93,7 @@ find_desktop() {
 }
 
 program_has_window() {
-    [ -n "$(device_windows --class '^ovoptions\.exe$')" ]
+    [ -n "$(device_windows --class '^(ovoptions|armwine)\.exe(\.so)?$')" ]
 }
 
 take_down() {
@@ -118,12 +125,22 @@ find_program() {
     esac
 }
 
+# Whether a program, as Wine takes it, is one for the device's processor.
+is_for_arm() {
+    local file=$1 header
+    [ "$file" != "$installed_program" ] || file="$dir/prefix/$install_dir/OVOptions.exe"
+    header=$(od -An -tu4 -j60 -N4 "$file" 2>/dev/null) || return 1
+    [ "$(od -An -tx2 -j$((header + 4)) -N2 "$file")" = ' 01c0' ]
+}
+
 # run_program PROGRAM [ARG...]: becomes the program, under the command in "limiter". In C:,
 # as on the device, where paths name no drive.
 run_program() {
+    local emulated=()
+    ! is_for_arm "$1" || emulated=("$arm_loader")
     cd "$dir/prefix/drive_c"
     DISPLAY=$screen_display exec "${limiter[@]}" \
-        env "${environment[@]}" "$wine_loader" "$@"
+        env "${environment[@]}" "$wine_loader" "${emulated[@]}" "$@"
 }
 
 # exec DIR PROGRAM [ARG...]
