@@ -54,15 +54,14 @@ void AddPluginDialog::Layout(HWND dialog) {
     const int width = client.right - 2 * left;
     const int button = Scale(kButtonWidth);
     const int row = ScaleY(kRowHeight);
-    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_HELP),
+    PlaceControl(Item(dialog, IDC_ADD_PLUGIN_HELP),
                  {left, ScaleY(kHelpTop), width, ScaleY(kHelpHeight)});
-    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LABEL),
+    PlaceControl(Item(dialog, IDC_ADD_PLUGIN_LABEL),
                  {left, ScaleY(kLabelTop), width, ScaleY(kLabelHeight)});
-    PlaceControl(GetDlgItem(dialog, IDC_ADD_PLUGIN_LIST),
+    PlaceControl(Item(dialog, IDC_ADD_PLUGIN_LIST),
                  {left, ScaleY(kListTop), width, ScaleY(kDropHeight)});
-    PlaceControl(
-        GetDlgItem(dialog, IDCANCEL),
-        {client.right - left - button, client.bottom - ScaleY(kButtonGap) - row, button, row});
+    PlaceControl(Item(dialog, IDCANCEL), {client.right - left - button,
+                                          client.bottom - ScaleY(kButtonGap) - row, button, row});
 }
 
 void AddPluginDialog::OnInit(HWND dialog) {
@@ -76,7 +75,7 @@ void AddPluginDialog::OnInit(HWND dialog) {
     SetDlgItemText(dialog, IDC_ADD_PLUGIN_HELP, LanguageText(IDS_TABS_PLUGIN_HELP).CStr());
     SetDlgItemText(dialog, IDCANCEL, LanguageText(IDS_CANCEL).CStr());
     plugins_ = TodayPlugins();
-    HWND list = GetDlgItem(dialog, IDC_ADD_PLUGIN_LIST);
+    HWND list = Item(dialog, IDC_ADD_PLUGIN_LIST);
     for (const WideString& plugin : plugins_)
         AddEntry(list, plugin.CStr());
     SelectIndex(list, 0);

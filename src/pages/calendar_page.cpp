@@ -281,7 +281,7 @@ void CalendarPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& la
 }
 
 void CalendarPage::PlaceIcons(HWND window, RowLayout& layout) {
-    if (!GetDlgItem(window, kIcons)) {
+    if (!Item(window, kIcons)) {
         appointmentIcons_.Create(window, normalFont, kIcons);
         taskIcons_.Create(window, normalFont, kTaskIconIds);
         displayFormat_.Create(window, normalFont, kDisplayFormat);
@@ -292,22 +292,20 @@ void CalendarPage::PlaceIcons(HWND window, RowLayout& layout) {
 }
 
 void CalendarPage::PlaceWeatherNotice(HWND window, int top) const {
-    HWND notice = GetDlgItem(window, kWeatherNotice);
-    if (!notice)
-        notice = CreateControl(window, L"STATIC", LanguageText(IDS_CALENDAR_WEATHER_MISSING).CStr(),
-                               SS_LEFT, kWeatherNotice, {}, normalFont);
-    RECT client{};
-    GetClientRect(window, &client);
-    PlaceControl(notice, {Scale(kMargin), top, client.right - Scale(2 * kMargin),
-                          client.bottom - ScaleY(kTabStripHeight) - top});
+    const SIZE size = ClientSize(window);
+    PutControl(window, L"STATIC", LanguageText(IDS_CALENDAR_WEATHER_MISSING).CStr(), SS_LEFT,
+               kWeatherNotice,
+               {Scale(kMargin), top, size.cx - Scale(2 * kMargin),
+                size.cy - ScaleY(kTabStripHeight) - top},
+               normalFont);
 }
 
 void CalendarPage::LoadCustomRow(HWND window, const FormRow& row) {
-    if (row.id == kDays) LoadDays(GetDlgItem(window, kDays));
+    if (row.id == kDays) LoadDays(Item(window, kDays));
 }
 
 void CalendarPage::SaveCustomRow(HWND window, const FormRow& row) {
-    if (row.id == kDays) settingsStore.dNumOfDays.Set(SelectedData(GetDlgItem(window, kDays)));
+    if (row.id == kDays) settingsStore.dNumOfDays.Set(SelectedData(Item(window, kDays)));
 }
 
 LRESULT CalendarPage::OnPaint(HWND window, UINT, WPARAM, LPARAM) {

@@ -104,7 +104,8 @@ void PrepareOwnerDrawn(HWND list) {
 void CreateCategoryControls(HWND page, HFONT font) {
     for (const PageControl& control : kControls) {
         const WideString text = control.text ? LanguageText(control.text) : WideString();
-        CreateControl(page, control.className, text.CStr(), control.style, control.id, {}, font);
+        CreateHiddenControl(page, control.className, text.CStr(), control.style, control.id, {},
+                            font);
     }
     PrepareOwnerDrawn(Item(page, kCategories));
     AddTickBoxes(CreateList(page, kMembers, font, kMemberHeight));

@@ -80,14 +80,15 @@ UINT ColoursPage::GetTabTitleId(int index) const {
 
 void ColoursPage::CreateControls(HWND window) {
     const auto addButton = [&](UINT id, UINT text) {
-        CreateControl(window, L"BUTTON", LanguageText(text).CStr(), WS_TABSTOP, id, {}, normalFont);
+        CreateHiddenControl(window, L"BUTTON", LanguageText(text).CStr(), WS_TABSTOP, id, {},
+                            normalFont);
     };
     PlaceSampleList(window, kColours, normalFont);
     for (const ColourItem& item : kItems)
         AddRow(Item(window, kColours), LanguageText(item.label).CStr());
     PlaceSampleButton(window, kEdit, LanguageText(IDS_COLOURS_EDIT).CStr(), normalFont);
-    HWND name = CreateControl(window, L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL,
-                              kSchemeName, {}, normalFont);
+    HWND name = CreateHiddenControl(window, L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL,
+                                    kSchemeName, {}, normalFont);
     SendMessage(name, EM_LIMITTEXT, kMaxSchemeName, 0);
     addButton(kSaveScheme, IDS_COLOURS_SAVE);
     PlaceSampleList(window, kSchemes, normalFont);
@@ -95,8 +96,6 @@ void ColoursPage::CreateControls(HWND window) {
     addButton(kLoadScheme, IDS_COLOURS_LOAD);
     addButton(kDeleteScheme, IDS_COLOURS_DELETE);
     Layout(window);
-    // Everything starts hidden; showing a tab is the base class's next step.
-    ShowControlRange(window, kEdit, kDeleteScheme, SW_HIDE);
 }
 
 LRESULT ColoursPage::Layout(HWND window) {

@@ -153,8 +153,7 @@ ContactsPage::ContactsPage() : FormPage(kTables) {}
 
 void ContactsPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout) {
     layout.AddLabel(row.labelId, LanguageText(row.text).CStr());
-    if (!GetDlgItem(window, static_cast<int>(row.id)))
-        alphabets_.Create(window, row.id, normalFont);
+    if (!Item(window, row.id)) alphabets_.Create(window, row.id, normalFont);
     alphabets_.Place(layout.RoomAbove(kListBottom));
 }
 

@@ -90,8 +90,7 @@ void FontStyleDialog::Layout(HWND dialog) {
     const int width = ClientSize(dialog).cx;
     const int height = ScaleY(kRowHeight);
     const auto place = [&](UINT id, int left, int top, int itemWidth, int itemHeight) {
-        MoveWindow(GetDlgItem(dialog, static_cast<int>(id)), left, top, itemWidth, itemHeight,
-                   TRUE);
+        MoveWindow(Item(dialog, id), left, top, itemWidth, itemHeight, TRUE);
     };
     int row = 0;
     place(IDC_FONT_SIZE_LABEL, 0, RowTop(row) + ScaleY(kLabelDrop), width - Scale(kSizeLabelEnd),
@@ -122,12 +121,12 @@ void FontStyleDialog::CreateBar(HWND dialog) {
     info.hInstRes = application.instance;
     if (!SHCreateMenuBar(&info)) return;
     bar_ = info.hwndMB;
-    barImages_ = LoadImageStrip(IDB_MENU_BAR, Scale(kBarImageSize, true), kBarImageMask);
+    barImages_ = LoadImageStrip(IDB_MENU_BAR, Scale(kBarImageSize), kBarImageMask);
     SendMessage(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(barImages_.Get()));
 }
 
 void FontStyleDialog::LoadValues(HWND dialog) const {
-    FillFontSizes(GetDlgItem(dialog, IDC_FONT_SIZE), static_cast<uint32_t>(font_.lfHeight));
+    FillFontSizes(Item(dialog, IDC_FONT_SIZE), static_cast<uint32_t>(font_.lfHeight));
     const auto check = [dialog](int id, bool isChecked) {
         SendDlgItemMessage(dialog, id, BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED, 0);
     };
@@ -142,7 +141,7 @@ void FontStyleDialog::TakeStyle(HWND dialog) const {
     font_.lfUnderline = IsBoxChecked(dialog, IDC_FONT_UNDERLINE) ? 1 : 0;
     font_.lfWeight = IsBoxChecked(dialog, IDC_FONT_BOLD) ? kBold : kRegular;
     font_.lfStrikeOut = IsBoxChecked(dialog, IDC_FONT_STRIKE_OUT) ? 1 : 0;
-    font_.lfHeight = static_cast<LONG>(ChosenFontSize(GetDlgItem(dialog, IDC_FONT_SIZE)));
+    font_.lfHeight = static_cast<LONG>(ChosenFontSize(Item(dialog, IDC_FONT_SIZE)));
 }
 
 void FontStyleDialog::SetColour(HWND dialog) {

@@ -164,7 +164,7 @@ void FillItems(HWND list) {
 }
 
 HWND ItemsOf(HWND page) {
-    return GetDlgItem(page, static_cast<int>(kItems));
+    return Item(page, kItems);
 }
 
 // The fonts of contacts keep sizes of their own.
@@ -249,7 +249,7 @@ void FontsPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layou
 }
 
 void FontsPage::LoadCustomRow(HWND window, const FormRow& row) {
-    HWND control = GetDlgItem(window, static_cast<int>(row.id));
+    HWND control = Item(window, row.id);
     switch (row.id) {
     case kSize:
     case kTitleSize:
@@ -267,7 +267,7 @@ void FontsPage::LoadCustomRow(HWND window, const FormRow& row) {
 }
 
 void FontsPage::SaveCustomRow(HWND window, const FormRow& row) {
-    HWND control = GetDlgItem(window, static_cast<int>(row.id));
+    HWND control = Item(window, row.id);
     switch (row.id) {
     case kSize:
     case kTitleSize:

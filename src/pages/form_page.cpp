@@ -63,10 +63,6 @@ void FormPage::CreateControls(HWND window) {
     for (const FormRow& row : tables_.rows) {
         if (HasRow(window, row)) LoadRow(window, row);
     }
-    // Everything starts hidden; showing a tab is the base class's next step.
-    for (const FormTab& tab : tables_.tabs) {
-        ShowControlRange(window, tab.firstId, tab.lastId, SW_HIDE);
-    }
     ApplyRules(window);
 }
 
@@ -206,14 +202,14 @@ const FormRow* FormPage::PathRowOfButton(UINT id) const {
 }
 
 void FormPage::OnPathButton(HWND window, const FormRow& row, UINT id) {
-    const int edit = static_cast<int>(row.id + kPathEdit);
+    const UINT edit = row.id + kPathEdit;
     WideString path;
     if (id == row.id + kPathBrowse) {
-        path = ControlText(GetDlgItem(window, edit), kPathLimit);
+        path = ControlText(Item(window, edit), kPathLimit);
         // The page may be closed and gone when the user is done: nothing below touches it.
         if (!BrowsePath(window, row, path)) return;
     }
-    SetDlgItemText(window, edit, path.CStr());
+    SetWindowText(Item(window, edit), path.CStr());
 }
 
 void FormPage::ApplyRules(HWND window) const {

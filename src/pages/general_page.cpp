@@ -304,7 +304,7 @@ void GeneralPage::PlaceCustomRow(HWND, const FormRow& row, RowLayout& layout) {
 }
 
 void GeneralPage::LoadCustomRow(HWND window, const FormRow& row) {
-    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
+    HWND combo = Item(window, row.id);
     if (row.id == kLanguage)
         FillLanguages(combo);
     else
@@ -355,8 +355,7 @@ void GeneralPage::SaveCustomRow(HWND window, const FormRow& row) {
         SaveLanguage(window, row);
         return;
     }
-    const WideString text =
-        ControlText(GetDlgItem(window, static_cast<int>(row.id)), kHeightTextLimit);
+    const WideString text = ControlText(Item(window, row.id), kHeightTextLimit);
     (settingsStore.*row.setting).Set(NumberFromText(text.CStr()));
 }
 

@@ -113,7 +113,7 @@ constexpr FileTypes kFileTypes[] = {
 void LoadFileTypes(HWND window) {
     const uint32_t value = settingsStore.NotesScannedFileTypes.value;
     for (const FileTypes& types : kFileTypes) {
-        HWND box = GetDlgItem(window, static_cast<int>(types.id));
+        HWND box = Item(window, types.id);
         const bool isOffered = types.id != kPresentationFiles || IsNewerThanCe420();
         EnableWindow(box, isOffered);
         SendMessage(box, BM_SETCHECK, isOffered && (value & types.shownFor), 0);
@@ -124,20 +124,16 @@ void SaveFileTypes(HWND window) {
     uint32_t value = 0;
     for (const FileTypes& types : kFileTypes) {
         // What the platform does not offer counts as scanned.
-        const bool isOffered = IsWindowEnabled(GetDlgItem(window, static_cast<int>(types.id)));
+        const bool isOffered = IsWindowEnabled(Item(window, types.id));
         if (!isOffered || IsBoxChecked(window, types.id)) value |= types.saved;
     }
     settingsStore.NotesScannedFileTypes.Set(value);
 }
 
-// Puts a button below the list; made when it is not there yet.
+// Puts a button below the list.
 void PlaceButton(HWND window, UINT id, UINT text, HFONT font, int x, int y) {
-    const ControlPlace place{x, y, Scale(kButtonWidth), ScaleY(kButtonHeight)};
-    HWND button = GetDlgItem(window, static_cast<int>(id));
-    if (button)
-        PlaceControl(button, place);
-    else
-        CreateControl(window, L"BUTTON", LanguageText(text).CStr(), WS_TABSTOP, id, place, font);
+    PutControl(window, L"BUTTON", LanguageText(text).CStr(), WS_TABSTOP, id,
+               {x, y, Scale(kButtonWidth), ScaleY(kButtonHeight)}, font);
 }
 } // namespace
 
@@ -152,7 +148,7 @@ void NotesPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layou
 
 void NotesPage::PlaceFolders(HWND window, const FormRow& row, RowLayout& layout) {
     layout.AddLabel(row.labelId, LanguageText(row.text).CStr());
-    if (!GetDlgItem(window, static_cast<int>(row.id))) folders_.Create(window, row.id, normalFont);
+    if (!Item(window, row.id)) folders_.Create(window, row.id, normalFont);
     const ControlPlace room = layout.RoomAbove(kListBottom);
     folders_.Place(room);
     const int buttons = room.y + room.height + ScaleY(kButtonGap);

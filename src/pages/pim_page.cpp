@@ -150,7 +150,7 @@ constexpr EnablingRule kRules[] = {
 constexpr FormTables kTables{kTabs, kRows, kRules};
 
 HWND ApplicationCombo(HWND window) {
-    return GetDlgItem(window, static_cast<int>(kApplication));
+    return Item(window, kApplication);
 }
 
 // Back to what was confirmed last: a list that is left by Escape, by a tap elsewhere or with the

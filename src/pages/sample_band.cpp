@@ -47,7 +47,7 @@ RECT SampleBand::Swatch() const {
 }
 
 void PlaceSampleList(HWND page, UINT id, HFONT font, int roomBelow) {
-    HWND list = GetDlgItem(page, static_cast<int>(id));
+    HWND list = Item(page, id);
     if (!list) list = CreateList(page, id, font, kListRowHeight);
     const SIZE size = ClientSize(page);
     const int top = ScaleY(kListTop);
@@ -58,12 +58,10 @@ void PlaceSampleList(HWND page, UINT id, HFONT font, int roomBelow) {
 }
 
 void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font) {
-    const ControlPlace place{ClientSize(page).cx - Scale(kButtonFromRight), ScaleY(kSwatchTop),
-                             Scale(kButtonWidth), ScaleY(kRowHeight)};
-    if (HWND button = GetDlgItem(page, static_cast<int>(id)))
-        PlaceControl(button, place);
-    else
-        CreateControl(page, L"BUTTON", text, WS_TABSTOP, id, place, font);
+    PutControl(page, L"BUTTON", text, WS_TABSTOP, id,
+               {ClientSize(page).cx - Scale(kButtonFromRight), ScaleY(kSwatchTop),
+                Scale(kButtonWidth), ScaleY(kRowHeight)},
+               font);
 }
 
 void RedrawSampleBand(HWND page) {

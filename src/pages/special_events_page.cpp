@@ -161,7 +161,7 @@ constexpr FormTables kTables{kTabs, kRows, {}};
 SpecialEventsPage::SpecialEventsPage() : FormPage(kTables) {}
 
 void SpecialEventsPage::LoadCustomRow(HWND window, const FormRow& row) {
-    HWND combo = GetDlgItem(window, static_cast<int>(row.id));
+    HWND combo = Item(window, row.id);
     AddEntry(combo, LanguageText(IDS_CHOICE_OFF).CStr());
     for (const auto& category : categoryStore.All())
         AddEntry(combo, category->name.CStr());

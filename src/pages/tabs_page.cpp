@@ -134,7 +134,7 @@ constexpr ListButton kButtons[] = {
 };
 
 HWND ListOf(HWND window) {
-    return GetDlgItem(window, kList);
+    return Item(window, kList);
 }
 
 TabDefinition& TabOfRow(HWND list, int row) {
@@ -150,7 +150,7 @@ const TabDefinition* RemovableTab(HWND list) {
 }
 
 void EnableRemoval(HWND window) {
-    HWND button = GetDlgItem(window, kRemove);
+    HWND button = Item(window, kRemove);
     const bool enabled = RemovableTab(ListOf(window)) != nullptr;
     // A disabled button would swallow the keys.
     if (!enabled && GetFocus() == button) SetFocus(ListOf(window));
@@ -234,9 +234,8 @@ void TabsPage::PlaceCustomRow(HWND window, const FormRow&, RowLayout& layout) {
     FitColumn(ListOf(window));
     for (const ListButton& button : kButtons) {
         y += ScaleY(button.below);
-        PlaceControl(
-            GetDlgItem(window, static_cast<int>(button.id)),
-            {client.right - Scale(kButtonEnd), y, Scale(kButtonWidth), ScaleY(kButtonHeight)});
+        PlaceControl(Item(window, button.id), {client.right - Scale(kButtonEnd), y,
+                                               Scale(kButtonWidth), ScaleY(kButtonHeight)});
     }
 }
 

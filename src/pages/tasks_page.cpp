@@ -227,7 +227,7 @@ constexpr IconGroupTable kIconTable{
 TasksPage::TasksPage() : FormPage(kTables), icons_(kIconTable), sample_(settingsStore) {}
 
 void TasksPage::PlaceCustomRow(HWND window, const FormRow&, RowLayout& layout) {
-    if (!GetDlgItem(window, kIcons)) icons_.Create(window, normalFont, kIcons);
+    if (!Item(window, kIcons)) icons_.Create(window, normalFont, kIcons);
     layout.MoveTo(icons_.Place(window, layout.Y()));
     layout.Skip(kSampleGap);
     sampleTop_ = layout.Y();

@@ -46,7 +46,7 @@ void MainMenuBar::TakeOutDashboardItems() const {
 }
 
 void MainMenuBar::AddButtons() {
-    images_ = LoadImageStrip(IDB_MENU_BAR, Scale(kImageSize, true), kImageMask);
+    images_ = LoadImageStrip(IDB_MENU_BAR, Scale(kImageSize), kImageMask);
     SendMessage(window_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_.Get()));
     TBBUTTON buttons[] = {IconButton(kOkImage, IDOK), IconButton(kCancelImage, IDCANCEL)};
     SendMessage(window_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);

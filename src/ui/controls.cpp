@@ -34,6 +34,14 @@ void PlaceControl(HWND control, const ControlPlace& place) {
     MoveWindow(control, place.x, place.y, place.width, place.height, TRUE);
 }
 
+void PutControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
+                const ControlPlace& place, HFONT font) {
+    if (HWND control = Item(parent, id))
+        PlaceControl(control, place);
+    else
+        CreateHiddenControl(parent, className, text, style, id, place, font);
+}
+
 void SetTabStop(HWND control, bool isStop) {
     const LONG style = GetWindowLong(control, GWL_STYLE) & ~WS_TABSTOP;
     SetWindowLong(control, GWL_STYLE, isStop ? style | WS_TABSTOP : style);

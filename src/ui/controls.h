@@ -29,6 +29,10 @@ HWND CreateHiddenControl(HWND parent, const wchar_t* className, const wchar_t* t
 // Moves a control; null is passed over.
 void PlaceControl(HWND control, const ControlPlace& place);
 
+// Makes a control hidden at its place, or moves the one that has the id already.
+void PutControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
+                const ControlPlace& place, HFONT font);
+
 // A window's control; null when it has none of the id.
 [[nodiscard]] inline HWND Item(HWND parent, UINT id) {
     return GetDlgItem(parent, static_cast<int>(id));

@@ -65,7 +65,7 @@ bool FileDialog::Select(HWND owner, const wchar_t* className, WideString& path) 
 }
 
 void FocusName(HWND window) {
-    HWND name = GetDlgItem(window, kName);
+    HWND name = Item(window, kName);
     SetFocus(name);
     SendMessage(name, EM_SETSEL, 0, -1);
 }
@@ -96,9 +96,9 @@ void FileDialog::Layout(HWND window) {
     const int fieldLeft = margin + Scale(kLabelWidth);
     int top = ScaleY(FolderView::kMargin + kRowGap) + rowHeight;
     const auto placeRow = [&](UINT labelId, UINT fieldId, int fieldDrop) {
-        MoveWindow(GetDlgItem(window, static_cast<int>(labelId)), margin, top + ScaleY(kLabelDrop),
-                   Scale(kLabelWidth), rowHeight - ScaleY(kLabelDrop), TRUE);
-        MoveWindow(GetDlgItem(window, static_cast<int>(fieldId)), fieldLeft, top + fieldDrop,
+        MoveWindow(Item(window, labelId), margin, top + ScaleY(kLabelDrop), Scale(kLabelWidth),
+                   rowHeight - ScaleY(kLabelDrop), TRUE);
+        MoveWindow(Item(window, fieldId), fieldLeft, top + fieldDrop,
                    client.right - margin - fieldLeft, rowHeight - fieldDrop, TRUE);
         top += rowHeight + ScaleY(kRowGap);
     };
@@ -148,7 +148,7 @@ bool MayReplace(HWND window, const WideString& path) {
 }
 
 void FileDialog::Confirm(HWND window) {
-    const WideString name = Trimmed(ControlText(GetDlgItem(window, kName)));
+    const WideString name = Trimmed(ControlText(Item(window, kName)));
     const FileNameFault fault = CheckFileName(name);
     if (fault != FileNameFault::None) {
         MessageBox(window,

@@ -115,13 +115,13 @@ void ImagePicker::Layout(HWND window) {
     const int width = client.right - 2 * margin;
     const int buttonTop = client.bottom - ScaleY(kMargin) - rowHeight;
     const auto place = [window](UINT id, const ControlPlace& to) {
-        MoveWindow(GetDlgItem(window, static_cast<int>(id)), to.x, to.y, to.width, to.height, TRUE);
+        MoveWindow(Item(window, id), to.x, to.y, to.width, to.height, TRUE);
     };
     place(kList, {margin, ScaleY(kMargin), width, buttonTop - 2 * ScaleY(kMargin)});
     place(kEmptyText, {2 * margin, ScaleY(kMargin) + rowHeight, width - 2 * margin, rowHeight});
     place(kNoneButton, {margin, buttonTop, button, rowHeight});
     place(IDCANCEL, {client.right - margin - button, buttonTop, button, rowHeight});
-    HWND list = GetDlgItem(window, kList);
+    HWND list = Item(window, kList);
     FitColumn(list);
     // Only now is it known which rows are in sight.
     const int row = SelectedRow(list) >= 0 ? SelectedRow(list) : CurrentRow();
@@ -131,7 +131,7 @@ void ImagePicker::Layout(HWND window) {
 void ImagePicker::OnCommand(HWND window, UINT id, UINT) {
     if (id == IDCANCEL) Finish(IDCANCEL);
     // Without a selection all stays as it is.
-    if (id == IDOK) Confirm(SelectedRow(GetDlgItem(window, kList)));
+    if (id == IDOK) Confirm(SelectedRow(Item(window, kList)));
     if (id != kNoneButton) return;
     chosen_ = L"";
     Finish(IDOK);
@@ -157,7 +157,7 @@ void ImagePicker::Confirm(int row) {
 }
 
 bool ImagePicker::OnKey(HWND window, const MSG& message) {
-    HWND list = GetDlgItem(window, kList);
+    HWND list = Item(window, kList);
     const auto key = static_cast<wchar_t>(message.wParam);
     const bool isLetter = (key >= L'A' && key <= L'Z') || (key >= L'0' && key <= L'9');
     if (message.hwnd != list || !isLetter) return false;

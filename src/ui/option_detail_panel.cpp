@@ -182,7 +182,7 @@ HWND OptionDetailPanel::PathField() const {
 }
 
 HWND OptionDetailPanel::Control(Part part) const {
-    return GetDlgItem(page_, static_cast<int>(firstId_ + part));
+    return Item(page_, firstId_ + part);
 }
 
 void OptionDetailPanel::SetPartText(Part part, const wchar_t* text) const {

@@ -36,10 +36,7 @@ void RowLayout::Skip(int units) {
 
 void RowLayout::Put(const wchar_t* className, const wchar_t* text, DWORD style, UINT id,
                     const ControlPlace& place) {
-    if (HWND control = GetDlgItem(page_, static_cast<int>(id)))
-        PlaceControl(control, place);
-    else
-        CreateHiddenControl(page_, className, text, style, id, place, font_);
+    PutControl(page_, className, text, style, id, place, font_);
 }
 
 void RowLayout::PutEdit(UINT id, int limit, const ControlPlace& place) {
