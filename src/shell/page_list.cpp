@@ -8,6 +8,7 @@
 #include "shell/services/image_strip.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
+#include "shell/services/text_size.h"
 
 namespace {
 constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_ICON | LVS_SINGLESEL |
@@ -40,7 +41,6 @@ void PageList::Create(HWND parent) {
     window_ = CreateWindowEx(0, WC_LISTVIEW, L"", kListStyle, 0, 0, client.right, client.bottom,
                              parent, nullptr, application.instance, nullptr);
     if (!window_) return;
-    SendMessage(window_, WM_SETFONT, reinterpret_cast<WPARAM>(application.boldFont), FALSE);
     SendMessage(window_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, kListExtendedStyle);
     images_ = LoadImageStrip(IDB_PAGE_LIST, Scale(kImageSize, true), kImageMask);
     SendMessage(window_, LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Get()));
@@ -76,8 +76,13 @@ void PageList::SpaceIcons() const {
     const RECT client = ClientOf(GetParent(window_));
     const int columns = std::max(1, 3 * static_cast<int>(client.right) / Scale(kThreeColumns));
     const int rows = (kPageCount + columns - 1) / columns;
-    SendMessage(window_, LVM_SETICONSPACING, 0,
-                MAKELPARAM(client.right / columns, client.bottom / rows));
+    const int rowHeight = client.bottom / rows;
+    // Where a caption cannot have a second line it must be narrow.
+    const bool isLow =
+        rowHeight < Scale(kImageSize, true) + 2 * FontMeasure(application.boldFont).LineHeight();
+    HFONT font = isLow ? application.normalFont : application.boldFont;
+    SendMessage(window_, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    SendMessage(window_, LVM_SETICONSPACING, 0, MAKELPARAM(client.right / columns, rowHeight));
     SendMessage(window_, LVM_ARRANGE, LVA_DEFAULT, 0);
 }
 
