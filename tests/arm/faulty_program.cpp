@@ -50,11 +50,24 @@ void PassAnOddPointer() {
     DeleteFile(text);
 }
 
+// No faults: two instructions a round, for the counter.
+void Loop(unsigned rounds) {
+    __asm__ volatile("1: subs %0, %0, #1\n bne 1b" : "+r"(rounds)::"cc");
+}
+void LoopAThousandTimes() {
+    Loop(1000);
+}
+void LoopThreeThousandTimes() {
+    Loop(3000);
+}
+
 struct Fault {
     const wchar_t* name;
     void (*commit)();
 };
 constexpr Fault kFaults[] = {
+    {L"loop-1000", LoopAThousandTimes},
+    {L"loop-3000", LoopThreeThousandTimes},
     {L"odd-word", ReadAWordAtAnOddPlace},
     {L"odd-half", WriteHalfAWordAtAnOddPlace},
     {L"newer", RunANewerInstruction},
