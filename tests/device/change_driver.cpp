@@ -22,7 +22,8 @@ constexpr const wchar_t* kPages[kPageCount] = {
 };
 constexpr int kRowsTaken = 3; // Of each list.
 
-// Waits until the program has done what it was told, and answers what it asks meanwhile.
+// Waits until the program has done what it was told, and answers what it asks meanwhile. Sent
+// messages are taken in their order; posted ones come after them.
 void Settle(HWND page) {
     constexpr UINT kLimit = 10'000;
     for (int rounds = 0; rounds < 4; ++rounds) {
@@ -58,14 +59,14 @@ std::vector<HWND> Controls(HWND page) {
 
 bool Change(HWND page, HWND control) {
     if (IsCheckBox(control)) {
-        PostMessage(control, BM_CLICK, 0, 0);
+        SendNotifyMessage(control, BM_CLICK, 0, 0);
     } else if (IsOfClass(control, L"ComboBox")) {
         const LRESULT entries = SendMessage(control, CB_GETCOUNT, 0, 0);
         const LRESULT chosen = SendMessage(control, CB_GETCURSEL, 0, 0);
         if (entries < 2) return false;
         SendMessage(control, CB_SETCURSEL, static_cast<WPARAM>((chosen + 1) % entries), 0);
-        PostMessage(page, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), CBN_SELCHANGE),
-                    reinterpret_cast<LPARAM>(control));
+        SendNotifyMessage(page, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), CBN_SELCHANGE),
+                          reinterpret_cast<LPARAM>(control));
     } else {
         return false;
     }
@@ -91,6 +92,10 @@ int ChangeRows(HWND page, HWND list) {
     int changed = 0;
     for (int row = 0; row < std::min(rows, kRowsTaken); ++row) {
         TapAt(place.left + (place.right - place.left) / 2, place.top + height * row + height / 2);
+        WaitUntil([&] {
+            return SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) ==
+                   row;
+        });
         Settle(page);
         changed += ChangeAll(page);
     }
@@ -105,7 +110,7 @@ int ChangeColour(const Program& program, HWND page) {
     RECT place{};
     GetWindowRect(GetDlgItem(page, kColourItems), &place);
     TapAt((place.left + place.right) / 2, place.top + (place.bottom - place.top) / 8);
-    Settle(page);
+    WaitUntil([&] { return IsWindowEnabled(GetDlgItem(page, kEditColour)) != FALSE; });
     TapOn(GetDlgItem(page, kEditColour));
     HWND picker = program.WaitForWindow(L"ColourPickerWin");
     if (!picker) return 0;

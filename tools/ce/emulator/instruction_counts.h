@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <numeric>
 #include <vector>
 
 // How many instructions of an image were executed, and where.
@@ -18,6 +19,10 @@ class InstructionCounts {
     // A run of instructions without a branch, executed once.
     void Add(uint32_t address, uint32_t instructions) {
         counts_[(address - begin_) / kInstruction] += instructions;
+    }
+
+    [[nodiscard]] uint64_t Total() const {
+        return std::accumulate(counts_.begin(), counts_.end(), uint64_t{0});
     }
 
     // Writes what came since the last time: a line each for the runs that were executed, "at",

@@ -5,6 +5,7 @@
 //   --root FOLDER  the host's folder that is the device's root (a new one in /tmp, removed at the
 //   end)
 // environment: ARMRUN_TRACE=1 prints every call of the system
+//              ARMRUN_COUNT=1 says at the end how many instructions were executed
 #include <sys/mman.h>
 
 #include <clocale>
@@ -34,6 +35,7 @@ constexpr uint32_t kEnd = 0x20000000;
 constexpr uint32_t kShow = 5;
 
 Machine* machine;
+InstructionCounts* counts;
 std::string ownRoot;
 
 void MakeMemory() {
@@ -96,6 +98,13 @@ int main(int argc, char** argv) {
     BeforeFailing([] { machine->PrintState(); });
     machine->traces = getenv("ARMRUN_TRACE") != nullptr;
     machine->Cpu().RefuseOddAccesses();
+    if (getenv("ARMRUN_COUNT")) {
+        counts = new InstructionCounts(kImage, image->Size());
+        machine->Cpu().Count(*counts);
+        atexit([] {
+            printf("%llu instructions\n", static_cast<unsigned long long>(counts->Total()));
+        });
+    }
     image->MapAt(kImage, guest.At<uint8_t>(kImage));
     machine->Bind(*image, kImage, FindHostFunction);
     machine->SetStack(kStackEnd);
