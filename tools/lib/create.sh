@@ -70,6 +70,9 @@ install_program() {
     local to="$1/prefix/$install_dir" program_dir library
     if [ "$machine" = arm ]; then
         program_dir="${OVDEVICE_PROGRAM_DIR:-$root/build/arm/device}"
+        [ -f "$root/build/armwine/armwine.exe.so" ] && [ -f "$root/build/pc32/device/imaging.dll" ] ||
+            die "nothing to run ARM programs with; build it: cmake --preset pc32 &&" \
+                "cmake --build --preset pc32 && tools/ce/emulator/build_armwine build/armwine"
         for library in coredll aygshell imaging; do
             cp --remove-destination "$root/build/pc32/device/$library.dll" \
                 "$1/prefix/drive_c/windows/system32/"
