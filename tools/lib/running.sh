@@ -151,7 +151,7 @@ exec_program() {
     [ $# -ge 2 ] || usage
     program=$(find_program "$2")
     bring_up
-    limiter=(timeout --foreground -k 5 "$limit")
+    limiter=(env OV_I386_ENDS_WITH_CALLER=1 timeout --foreground -k 5 "$limit")
     (run_program "$program" "${@:3}") || status=$?
     # A program that had to be killed counts as one that ran out of time.
     if [ $status -eq 137 ] && [ "$limit" -gt 0 ] && [ $((SECONDS - began)) -ge "$limit" ]; then
