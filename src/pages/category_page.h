@@ -24,7 +24,7 @@ class CategoryPage final : public FormPage {
   private:
     static void FillLists(HWND window);
     void DrawCategory(const DRAWITEMSTRUCT& row, const CategoryEntry& category) const;
-    void OnButton(HWND window, UINT id);
+    static void OnButton(HWND window, UINT id);
     static void OnPathChanged(HWND window);
 
     void ChangeFilter(HWND window);

@@ -5,12 +5,34 @@
 
 namespace {
 constexpr int kByte = 255;
-constexpr int kSector = kFullCircle / 6;
 constexpr int kComponents = 3;
 constexpr int kBitsPerByte = 8;
 
-uint32_t ByteOf(int doubledLevel) {
-    return static_cast<uint32_t>((doubledLevel * kByte + kFullShade) / (2 * kFullShade));
+// The components of a saturation and lightness, which only differ by hue. Levels are doubled, so
+// that half a spread stays whole.
+struct Levels {
+    int lowest;
+    int spread;
+
+    // Of the component that is so many of kHueSector steps above the lowest.
+    [[nodiscard]] uint32_t Byte(int steps) const {
+        const int level = lowest + 2 * spread * steps / kHueSector;
+        return static_cast<uint32_t>((level * kByte + kFullShade) / (2 * kFullShade));
+    }
+};
+
+Levels LevelsOf(int saturation, int lightness) {
+    const int spread =
+        (kFullShade - std::abs(2 * lightness - kFullShade)) * saturation / kFullShade;
+    return {2 * lightness - spread, spread};
+}
+
+uint32_t Mix(int sector, uint32_t high, uint32_t middle, uint32_t low) {
+    constexpr uint8_t kOrders[6][kComponents] = {{2, 1, 0}, {1, 2, 0}, {0, 2, 1},
+                                                 {0, 1, 2}, {1, 0, 2}, {2, 0, 1}};
+    const uint32_t levels[] = {low, middle, high};
+    const auto& [red, green, blue] = kOrders[sector];
+    return levels[red] | levels[green] << kBitsPerByte | levels[blue] << 2 * kBitsPerByte;
 }
 
 int HexDigit(wchar_t digit) {
@@ -28,31 +50,35 @@ int HueOf(int red, int green, int blue, int spread) {
         offset = green - blue;
     } else if (green >= blue) {
         offset = blue - red;
-        base = 2 * kSector;
+        base = 2 * kHueSector;
     } else {
         offset = red - green;
-        base = 4 * kSector;
+        base = 4 * kHueSector;
     }
-    const int rounded = (offset * kSector + (offset < 0 ? -spread : spread) / 2) / spread;
+    const int rounded = (offset * kHueSector + (offset < 0 ? -spread : spread) / 2) / spread;
     return (base + rounded + kFullCircle) % kFullCircle;
 }
 } // namespace
 
 uint32_t ColourOf(const HueShade& shade) {
-    // Levels are doubled, so that half a spread stays whole.
-    const int spread =
-        (kFullShade - std::abs(2 * shade.lightness - kFullShade)) * shade.saturation / kFullShade;
-    const int lowest = 2 * shade.lightness - spread;
-    const int within = shade.hue % (2 * kSector);
-    const int second = 2 * spread * (kSector - std::abs(within - kSector)) / kSector;
-    const uint32_t high = ByteOf(lowest + 2 * spread);
-    const uint32_t middle = ByteOf(lowest + second);
-    const uint32_t low = ByteOf(lowest);
-    const uint32_t sectors[6][kComponents] = {{high, middle, low}, {middle, high, low},
-                                              {low, high, middle}, {low, middle, high},
-                                              {middle, low, high}, {high, low, middle}};
-    const auto& [red, green, blue] = sectors[shade.hue / kSector];
-    return red | green << kBitsPerByte | blue << 2 * kBitsPerByte;
+    const Levels levels = LevelsOf(shade.saturation, shade.lightness);
+    const HuePlace place = PlaceOf(shade.hue);
+    return Mix(place.sector, levels.Byte(kHueSector), levels.Byte(place.middle), levels.Byte(0));
+}
+
+HuePlace PlaceOf(int hue) {
+    const int within = hue % (2 * kHueSector);
+    return {hue / kHueSector, kHueSector - std::abs(within - kHueSector)};
+}
+
+HueRow::HueRow(int saturation, int lightness) {
+    const Levels levels = LevelsOf(saturation, lightness);
+    for (int middle = 0; middle <= kHueSector; ++middle)
+        middles_[middle] = levels.Byte(middle);
+}
+
+uint32_t HueRow::At(HuePlace place) const {
+    return Mix(place.sector, middles_[kHueSector], middles_[place.middle], middles_[0]);
 }
 
 HueShade HueShadeOf(uint32_t colour, const HueShade& previous) {

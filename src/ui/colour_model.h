@@ -20,6 +20,26 @@ inline constexpr int kFullShade = 240;
 // For a hue below kFullCircle.
 [[nodiscard]] uint32_t ColourOf(const HueShade& shade);
 
+// Where a hue below kFullCircle lies: in one of six sectors, and how much its middle component has
+// of the way from the lowest to the highest, from 0 to kHueSector.
+struct HuePlace {
+    int sector;
+    int middle;
+};
+inline constexpr int kHueSector = kFullCircle / 6;
+[[nodiscard]] HuePlace PlaceOf(int hue);
+
+// The colours of all hues of one saturation and lightness, each as by ColourOf. Made for drawing
+// many: they cost no division, which the device's processors do slowly.
+class HueRow {
+  public:
+    HueRow(int saturation, int lightness);
+    [[nodiscard]] uint32_t At(HuePlace place) const;
+
+  private:
+    uint32_t middles_[kHueSector + 1];
+};
+
 // What a grey, black or white leaves open is as in `previous`.
 [[nodiscard]] HueShade HueShadeOf(uint32_t colour, const HueShade& previous);
 

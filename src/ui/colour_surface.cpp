@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "shell/services/application.h"
 #include "shell/services/scaling.h"
@@ -267,12 +268,14 @@ void HueField::Render(HDC dc, SIZE size) {
     void* bits = nullptr;
     picture_.Reset(CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!picture_) return;
+    std::vector<HuePlace> columns;
+    for (int x = 0; x < size.cx; ++x)
+        columns.push_back(PlaceOf(ValueAt(x, kFullCircle - 1, static_cast<int>(size.cx))));
     auto* pixel = static_cast<uint32_t*>(bits);
     for (int y = 0; y < size.cy; ++y) {
-        const int saturation = ValueAt(y, kFullShade, static_cast<int>(size.cy));
-        for (int x = 0; x < size.cx; ++x) {
-            const int hue = ValueAt(x, kFullCircle - 1, static_cast<int>(size.cx));
-            const uint32_t colour = ColourOf({hue, saturation, kFullShade / 2});
+        const HueRow row(ValueAt(y, kFullShade, static_cast<int>(size.cy)), kFullShade / 2);
+        for (const HuePlace& column : columns) {
+            const uint32_t colour = row.At(column);
             // A bitmap's pixel has blue in its lowest byte.
             *pixel++ =
                 Component(colour, 0) << 16 | Component(colour, 1) << 8 | Component(colour, 2);

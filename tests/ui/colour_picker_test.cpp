@@ -249,5 +249,10 @@ TEST(ColourModel, TurnsColoursIntoShadesAndBack) {
     }
     const HueShade blue = HueShadeOf(0xFF0000, {0, 0, 0});
     EXPECT_EQ(HueShadeOf(0x808080, blue).hue, 240) << "grey has no hue of its own";
+    const HueRow row(200, 90);
+    for (int hue = 0; hue < kFullCircle; ++hue)
+        ASSERT_EQ(row.At(PlaceOf(hue)), ColourOf({hue, 200, 90})) << hue;
+    EXPECT_EQ(ColourOf({30, kFullShade, kFullShade / 2}), 0x0080FFu) << "orange";
+    EXPECT_EQ(ColourOf({270, kFullShade, kFullShade / 2}), 0xFF0080u) << "violet";
 }
 } // namespace
