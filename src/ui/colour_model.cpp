@@ -27,9 +27,11 @@ Levels LevelsOf(int saturation, int lightness) {
     return {2 * lightness - spread, spread};
 }
 
+// Which of the lowest (0), the middle and the highest component is red, green and blue, by sector.
+constexpr uint8_t kOrders[6][kComponents] = {{2, 1, 0}, {1, 2, 0}, {0, 2, 1},
+                                             {0, 1, 2}, {1, 0, 2}, {2, 0, 1}};
+
 uint32_t Mix(int sector, uint32_t high, uint32_t middle, uint32_t low) {
-    constexpr uint8_t kOrders[6][kComponents] = {{2, 1, 0}, {1, 2, 0}, {0, 2, 1},
-                                                 {0, 1, 2}, {1, 0, 2}, {2, 0, 1}};
     const uint32_t levels[] = {low, middle, high};
     const auto& [red, green, blue] = kOrders[sector];
     return levels[red] | levels[green] << kBitsPerByte | levels[blue] << 2 * kBitsPerByte;
