@@ -25,23 +25,7 @@ struct Shown {
     RECT icon = {};
     std::vector<RECT> buttons; // From left to right.
     LONG textNeeds = 0;        // The height of its text, wrapped to the width that it has.
-    bool lastLineDrawn = false;
 };
-
-// Whether anything is written in the lowest line of a text as high as it needs to be.
-bool IsLastLineDrawn(HWND text, LONG height) {
-    UpdateWindow(text);
-    RECT client;
-    GetClientRect(text, &client);
-    const HDC dc = GetDC(text);
-    const COLORREF background = GetPixel(dc, client.right - 1, height - 1);
-    bool drawn = false;
-    for (LONG y = height - Pixels(9); y < height && !drawn; ++y)
-        for (LONG x = 0; x < client.right && !drawn; ++x)
-            drawn = GetPixel(dc, x, y) != background;
-    ReleaseDC(text, dc);
-    return drawn;
-}
 
 LONG HeightNeeded(HWND text) {
     wchar_t content[1024];
@@ -68,7 +52,6 @@ Shown Measure(HWND box) {
         if (GetDlgCtrlID(child) == kTextId) {
             shown.text = PlaceOf(child);
             shown.textNeeds = HeightNeeded(child);
-            shown.lastLineDrawn = IsLastLineDrawn(child, shown.textNeeds);
         } else if (SendMessageW(child, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) {
             shown.buttons.push_back(PlaceOf(child));
         } else if (SendMessageW(child, STM_GETICON, 0, 0)) {
@@ -149,7 +132,6 @@ void ExpectFits(const Shown& shown) {
     EXPECT_GT(shown.box.left, area.left);
     EXPECT_TRUE(Contains(shown.client, shown.text)) << shown.text << " in " << shown.client;
     EXPECT_GE(shown.text.bottom - shown.text.top, shown.textNeeds);
-    EXPECT_TRUE(shown.lastLineDrawn);
     ASSERT_FALSE(shown.buttons.empty());
     EXPECT_TRUE(IsCentred(shown.client, shown.buttons.front().left, shown.buttons.back().right));
     const RECT* previous = nullptr;
@@ -196,25 +178,6 @@ TEST(MessageBoxTest, FitsTheScreen) {
     }
 }
 
-TEST(MessageBoxTest, KeepsTheButtonsOfATextTallerThanTheScreen) {
-    std::wstring text;
-    for (int line = 0; line < 60; ++line)
-        text += L"A line\n";
-    for (const UINT type : {MB_YESNO, MB_YESNO | MB_ICONWARNING}) {
-        const Asking asking(MessageBoxW, text.c_str(), type, IDNO);
-        EXPECT_EQ(asking.answer, IDNO);
-        EXPECT_TRUE(Contains(DeviceWorkArea(), asking.shown.box)) << asking.shown.box;
-        if (type & MB_ICONMASK) {
-            EXPECT_TRUE(Contains(asking.shown.client, asking.shown.icon)) << asking.shown.icon;
-        }
-        ASSERT_EQ(asking.shown.buttons.size(), 2u);
-        for (const RECT& button : asking.shown.buttons) {
-            EXPECT_TRUE(Contains(asking.shown.client, button)) << button;
-            EXPECT_GT(button.top, asking.shown.text.bottom);
-        }
-    }
-}
-
 TEST(MessageBoxTest, LeavesABoxThatFitsAsItIs) {
     const Asking plain(PlainMessageBox(), L"No.", MB_OK, IDOK);
     const Asking device(MessageBoxW, L"No.", MB_OK, IDOK);
@@ -244,34 +207,6 @@ TEST(MessageBoxTest, FitsOnlyTheBoxThatWasAskedFor) {
     // No box comes up for an owner that is none.
     EXPECT_LE(MessageBoxW(reinterpret_cast<HWND>(UINT_PTR{0xBAD0}), L"", L"", MB_OK), 0);
     ExpectPlainBoxIsLeftAlone();
-}
-
-int WINAPI AskForActiveWindow(HWND, LPCWSTR text, LPCWSTR caption, UINT type) {
-    return MessageBoxW(GetActiveWindow(), text, caption, type);
-}
-
-// A program's window may ask something itself while a box of another opens: when it is disabled.
-TEST(MessageBoxTest, FitsBoxesThatOpenWhileAnotherOpens) {
-    static Shown second;
-    static int questions;
-    static WNDPROC original;
-    questions = 0;
-    const ProgramWindow program;
-    original = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(program.window, GWLP_WNDPROC,
-                          reinterpret_cast<LONG_PTR>(+[](HWND window, UINT message, WPARAM wParam,
-                                                         LPARAM lParam) -> LRESULT {
-                              if (message == WM_ENABLE && !wParam && questions++ == 0) {
-                                  const Asking asking(MessageBoxW, kQuestion, MB_OK, IDOK);
-                                  second = asking.shown;
-                              }
-                              return CallWindowProcW(original, window, message, wParam, lParam);
-                          })));
-    const Asking first(AskForActiveWindow, kQuestion, MB_YESNO, IDYES);
-    EXPECT_EQ(first.answer, IDYES);
-    EXPECT_GE(questions, 1);
-    ExpectFits(second);
-    ExpectFits(first.shown);
 }
 
 } // namespace
