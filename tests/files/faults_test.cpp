@@ -13,6 +13,7 @@
 #include "settings/settings_store.h"
 #include "tests/settings/every_setting.h"
 #include "tests/settings/store_fixture.h"
+#include "tests/support/child_process.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/resource_count.h"
 
@@ -191,7 +192,6 @@ TEST_F(FaultsTest, SchemesAreWholeOrNotThere) {
 }
 
 // --- The battery
-// ----------------------------------------------------------------------------------
 
 constexpr wchar_t kRegistryVariable[] = L"OV_TEST_REGISTRY";
 constexpr wchar_t kWriteVariable[] = L"OV_TEST_WRITE";
@@ -217,26 +217,9 @@ TEST(BatteryTest, DISABLED_SavesUntilItRunsOut) {
 DWORD RunOut(ULONG nth) {
     wchar_t program[MAX_PATH] = L"";
     GetModuleFileName(nullptr, program, MAX_PATH);
-    std::wstring command = L"\"" + std::wstring(program) +
-                           L"\" --gtest_also_run_disabled_tests --gtest_brief=1"
-                           L" --gtest_filter=BatteryTest.*";
     SetEnvironmentVariableW(kRegistryVariable, RegistryOfThisProcess().c_str());
     SetEnvironmentVariableW(kWriteVariable, std::to_wstring(nth).c_str());
-    STARTUPINFO startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES; // None: what it prints is not this test's.
-    PROCESS_INFORMATION process{};
-    if (!CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                       &startup, &process)) {
-        return 0;
-    }
-    DWORD code = 0;
-    if (WaitForSingleObject(process.hProcess, 20000) == WAIT_OBJECT_0) {
-        GetExitCodeProcess(process.hProcess, &code);
-    }
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return code;
+    return RunTests(program, L"--gtest_also_run_disabled_tests --gtest_filter=BatteryTest.*");
 }
 
 TEST_F(FaultsTest, WhatAnInterruptedSaveLeavesLoads) {
