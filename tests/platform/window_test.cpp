@@ -16,7 +16,6 @@ TEST(WindowTest, DefaultPlaceIsTheWorkArea) {
     RECT area = {};
     ASSERT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
     EXPECT_EQ(area, DeviceWorkArea());
-    EXPECT_FALSE(SystemParametersInfoW(SPI_GETWORKAREA, 0, nullptr, 0));
 
     const ProgramWindow overlapped;
     EXPECT_EQ(PlaceOf(overlapped.window), area);
@@ -86,9 +85,6 @@ TEST(WindowTest, ForegroundRequestWithTheLowBitReachesThePopup) {
     const auto handle = reinterpret_cast<UINT_PTR>(program.window);
     EXPECT_TRUE(SetForegroundWindow(reinterpret_cast<HWND>(handle | 1)));
     EXPECT_EQ(GetForegroundWindow(), dialog.window);
-    EXPECT_TRUE(SetForegroundWindow(other.window));
-    EXPECT_EQ(GetForegroundWindow(), other.window);
-    EXPECT_FALSE(SetForegroundWindow(reinterpret_cast<HWND>(UINT_PTR{1})));
 }
 
 } // namespace
