@@ -11,10 +11,9 @@
 #include "files/scheme_files.h"
 #include "files/settings_backup.h"
 #include "settings/settings_store.h"
+#include "tests/files/folder_fixture.h"
 #include "tests/settings/every_setting.h"
-#include "tests/settings/store_fixture.h"
 #include "tests/support/child_process.h"
-#include "tests/support/install_folder.h"
 #include "tests/support/resource_count.h"
 
 namespace {
@@ -23,11 +22,10 @@ constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
 // A key that the platform fails to close stays open, whatever the program does.
 constexpr ULONG kAllCalls = (kRegistryCalls | kFileCalls) & ~kRegCloseKeyCalls;
 
-class FaultsTest : public StoreFixture {
+class FaultsTest : public FolderFixture {
   protected:
     void SetUp() override {
-        StoreFixture::SetUp();
-        folder_.emplace();
+        FolderFixture::SetUp();
         folder_->SetCategories("1\t0\tHome\n2\t0\tWork\n");
         SetText(HKEY_CURRENT_USER, std::wstring(kTabs) + L"\\Weather", L"DLL", L"weather.dll");
         LoadInto(settingsStore);
@@ -36,10 +34,6 @@ class FaultsTest : public StoreFixture {
         SetUserNumber(L"Software\\Teskel\\Orvane\\Colors", L"HighlightBgClr", 5);
         CreateDirectory(folder_->PathOf(L"Schemes").c_str(), nullptr);
         backup_ = folder_->PathOf(L"Backup.ovsb");
-    }
-    void TearDown() override {
-        folder_.reset();
-        StoreFixture::TearDown();
     }
 
     // Does `work` over and over, each time with another one of its calls failing (from 1; at first,
@@ -73,7 +67,6 @@ class FaultsTest : public StoreFixture {
         return file.IsOpen() && ReadBackup(file, store_);
     }
 
-    std::optional<InstallFolder> folder_;
     CategoryStore store_;
     std::wstring backup_;
 };

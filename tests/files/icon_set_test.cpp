@@ -10,19 +10,18 @@
 #include "files/image_loader.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
-#include "tests/settings/store_fixture.h"
+#include "tests/files/folder_fixture.h"
 #include "tests/support/image_files.h"
-#include "tests/support/install_folder.h"
 
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
-class IconSetTest : public StoreFixture {
+class IconSetTest : public FolderFixture {
   protected:
     void SetUp() override {
-        StoreFixture::SetUp();
+        FolderFixture::SetUp();
         CoInitializeEx(nullptr, 0);
         ASSERT_EQ(CoCreateInstance(CLSID_ImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                                    IID_IImagingFactory,
@@ -31,16 +30,14 @@ class IconSetTest : public StoreFixture {
         library_.Reset(LoadLibrary(L"\\Program Files\\Teskel\\Orvane\\LowDpiRes.dll"));
         application.displayLibrary = library_.Get();
         ASSERT_TRUE(library_);
-        folder_.emplace();
     }
     void TearDown() override {
         icons_.Release();
-        folder_.reset();
         application.displayLibrary = nullptr;
         application.imagingFactory->Release();
         application.imagingFactory = nullptr;
         CoUninitialize();
-        StoreFixture::TearDown();
+        FolderFixture::TearDown();
     }
 
     void Write(const wchar_t* name, const std::string& bytes) {
@@ -64,7 +61,6 @@ class IconSetTest : public StoreFixture {
         return static_cast<bool>(LoadImageFile(folder_->PathOf(name).c_str()));
     }
 
-    std::optional<InstallFolder> folder_;
     UniqueModule library_;
     IconSet icons_;
 };
