@@ -84,33 +84,4 @@ TEST_F(ObjectStoreTest, ReadingStepsOnlyWithAutoIncrement) {
     }
 }
 
-TEST_F(ObjectStoreTest, TakesAnyLine) {
-    const struct {
-        std::string_view line;
-        SHORT number, flag;
-        const wchar_t* name;
-    } kCases[] = {
-        {"7\t0\tWork", 7, 0, L"Work"},
-        {"-32768\t32767\tx", -32768, 32767, L"x"},
-        {"32768\t-32769\tx", kNone, kNone, L"x"},
-        {"7a\t \tx", kNone, kNone, L"x"},
-        {"7", 7, kNone, nullptr},
-        {"\t\tname only", kNone, kNone, L"name only"},
-        {"1\t2\ta\tb # c", 1, 2, L"a\tb # c"},
-        {"1\t2\t\xF0\x9F\x98\x80\xE2\x82\xAC", 1, 2, L"\U0001F600\u20AC"},
-        {"1\t2\t\xE2\x82\x80\xFF", 1, 2, L"\u2080\uFFFD"},
-    };
-    for (const auto& [line, number, flag, name] : kCases) {
-        Open("\xEF\xBB\xBF\r\n \t\n#" + std::string(line) + "\n" + std::string(line) + "\r\n",
-             CEDB_AUTOINCREMENT);
-        ASSERT_NE(Read({kNumber, kFlag, kName}), 0u) << line;
-        EXPECT_EQ(Number(0), number) << line;
-        EXPECT_EQ(Number(1), flag) << line;
-        EXPECT_STREQ(Property(2).val.lpwstr, name) << line;
-        EXPECT_EQ(Read({kNumber}), 0u) << "one record, of " << line;
-    }
-    Open("\n\r\n \t\n\t\t\n#\n");
-    EXPECT_EQ(SeekFirst(), 0u);
-}
-
 } // namespace

@@ -53,4 +53,15 @@ TEST(SystemTest, EachFaceIsNamedOnce) {
     EXPECT_EQ(std::set(named.begin(), named.end()), distinct);
 }
 
+TEST(SystemTest, DeletedKeyGoesWithEverythingBelowIt) {
+    for (const wchar_t* path : {L"Software\\Tree\\1\\a", L"Software\\Tree\\1\\b\\c"}) {
+        HKEY key = nullptr;
+        RegCreateKeyExW(HKEY_CURRENT_USER, path, 0, nullptr, 0, 0, nullptr, &key, nullptr);
+        RegCloseKey(key);
+    }
+    EXPECT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\Tree"), ERROR_SUCCESS);
+    EXPECT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\Tree"), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(RegDeleteKeyW(HKEY_CURRENT_USER, L""), ERROR_INVALID_PARAMETER);
+}
+
 } // namespace

@@ -45,20 +45,6 @@ TEST(WideString, CapacityGrowsByTheRule) {
     EXPECT_STREQ(text.CStr(), L"");
 }
 
-TEST(WideString, TakesATextFromInsideItself) {
-    WideString text(L"abcdef");
-    text.Assign(text.CStr() + 2);
-    EXPECT_STREQ(text.CStr(), L"cdef");
-    text.Append(text.CStr());
-    EXPECT_STREQ(text.CStr(), L"cdefcdef");
-    text.Append(text.CStr() + 6);
-    EXPECT_STREQ(text.CStr(), L"cdefcdefef");
-    text.Assign(text.CStr(), 3);
-    EXPECT_STREQ(text.CStr(), L"cde");
-    text = *&text;
-    EXPECT_STREQ(text.CStr(), L"cde");
-}
-
 TEST(WideString, TakesCountedCharactersUpToTheFirstNul) {
     const wchar_t characters[] = {L'a', L'b', L'\0', L'c'};
     WideString text(L"before");
