@@ -50,6 +50,7 @@ TEST(WideString, TakesCountedCharactersUpToTheFirstNul) {
     WideString text(L"before");
     text.Assign(characters, 4);
     EXPECT_STREQ(text.CStr(), L"ab");
+    EXPECT_EQ(text.Length(), 2U);
     text.Assign(characters, 1);
     EXPECT_STREQ(text.CStr(), L"a");
     text.Assign(nullptr, 0);
