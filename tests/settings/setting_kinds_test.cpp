@@ -39,58 +39,40 @@ namespace {
 
 class SettingKinds : public RegistryFixture {};
 
-TEST_F(SettingKinds, NumbersTakeUpToFourBytesOfAnyType) {
+// Whatever its type: a number takes up to four bytes, a text ends at the first NUL or with the
+// value.
+TEST_F(SettingKinds, BytesOfAnyTypeCountAsNumbersAndTexts) {
     struct Case {
         DWORD type;
         std::string bytes;
         uint32_t number;
-    };
-    const Case cases[] = {
-        {REG_DWORD, {"\x01\x02\x03\x84", 4}, 0x84030201},
-        {REG_SZ, {"A\0B\0", 4}, 0x00420041},
-        {REG_BINARY, {"\x01\x02\x03", 3}, 0x030201},
-        {REG_DWORD, "", 0},
-        {REG_BINARY, "12345", 77},
-    };
-    for (const Case& c : cases) {
-        SetValue(HKEY_CURRENT_USER, kRoot, L"Number", c.type, c.bytes.data(), c.bytes.size());
-        DwordSetting setting;
-        setting.value = 0xDDDDDDDD;
-        EXPECT_EQ(setting.Load(nullptr, 77, L"Number", SettingGroup::Root), c.number)
-            << c.bytes.size() << " bytes of type " << c.type;
-        EXPECT_EQ(setting.value, c.number);
-        EXPECT_EQ(setting.defaultValue, 77U);
-        EXPECT_FALSE(setting.changed);
-    }
-}
-
-TEST_F(SettingKinds, TextsAreBoundedByTheirSize) {
-    struct Case {
-        DWORD type;
-        std::string bytes;
         const wchar_t* text;
     };
     const Case cases[] = {
-        {REG_SZ, {"a\0b\0\0\0", 6}, L"ab"},
-        {REG_SZ, {"a\0b\0", 4}, L"ab"},  // Without a terminator.
-        {REG_SZ, {"a\0b\0c", 5}, L"ab"}, // Half a character.
-        {REG_BINARY, "x", L""},          // Not even one.
-        {REG_MULTI_SZ, {"a\0\0\0b\0\0\0\0\0", 10}, L"a"},
-        {REG_DWORD, {"A\0B\0", 4}, L"AB"},
+        {REG_DWORD, {"\x01\x02\x03\x84", 4}, 0x84030201, L"\x0201\x8403"},
+        {REG_SZ, {"A\0B\0", 4}, 0x00420041, L"AB"}, // Without a terminator.
+        {REG_BINARY, {"\x01\x02\x03", 3}, 0x030201, L"\x0201"},
+        {REG_DWORD, "", 0, L""},
+        {REG_BINARY, "x", 'x', L""},
+        {REG_SZ, {"a\0b\0c", 5}, 77, L"ab"},
+        {REG_SZ, {"a\0b\0\0\0", 6}, 77, L"ab"},
+        {REG_MULTI_SZ, {"a\0\0\0b\0\0\0\0\0", 10}, 77, L"a"},
     };
+    DwordSetting number;
+    StringSetting text;
     for (const Case& c : cases) {
-        SetValue(HKEY_CURRENT_USER, kRoot, L"Text", c.type, c.bytes.data(), c.bytes.size());
-        StringSetting setting;
-        EXPECT_STREQ(setting.Load(nullptr, L"default", L"Text", SettingGroup::Root), c.text)
-            << c.bytes.size() << " bytes of type " << c.type;
-        EXPECT_FALSE(setting.changed);
+        SCOPED_TRACE(testing::Message() << c.bytes.size() << " bytes of type " << c.type);
+        SetValue(HKEY_CURRENT_USER, kRoot, L"Value", c.type, c.bytes.data(), c.bytes.size());
+        EXPECT_EQ(number.Load(nullptr, 77, L"Value", SettingGroup::Root), c.number);
+        EXPECT_EQ(number.value, c.number);
+        EXPECT_FALSE(number.changed);
+        EXPECT_STREQ(text.Load(nullptr, L"default", L"Value", SettingGroup::Root), c.text);
+        EXPECT_FALSE(text.changed);
     }
-    StringSetting missing;
-    EXPECT_STREQ(missing.Load(nullptr, L"default", L"Missing", SettingGroup::Root), L"default");
-
+    EXPECT_STREQ(text.Load(nullptr, L"default", L"Missing", SettingGroup::Root), L"default");
     const std::wstring huge(500'000, L'h');
-    SetText(HKEY_CURRENT_USER, kRoot, L"Text", huge);
-    EXPECT_EQ(missing.Load(nullptr, L"", L"Text", SettingGroup::Root), huge);
+    SetText(HKEY_CURRENT_USER, kRoot, L"Value", huge);
+    EXPECT_EQ(text.Load(nullptr, L"", L"Value", SettingGroup::Root), huge);
 }
 
 TEST_F(SettingKinds, OnlyWhatWasSetIsSavedAndDefaultsAreDeleted) {
