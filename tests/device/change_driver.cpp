@@ -11,15 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/page_factory.h"
-
 namespace {
 
-constexpr const wchar_t* kPages[kPageCount] = {
-    L"GeneralSettingsWin", L"CalendarSettingsWin", L"TasksSettingsWin",   L"NotesSettingsWin",
-    L"ContactSettingsWin", L"MessagesSettingsWin", L"SEventsSettingsWin", L"FontSettingsWin",
-    L"ColorSettingsWin",   L"PIMSettingsWin",      L"TabsSettingsWin",    L"CategorySettingsWin",
-};
 constexpr int kRowsTaken = 3; // Of each list.
 
 // Waits until the program has done what it was told, and answers what it asks meanwhile. Sent
@@ -32,8 +25,7 @@ void Settle(HWND page) {
         wchar_t name[16] = L"";
         GetClassName(front, name, 16);
         if (front == page || lstrcmp(name, L"#32770") != 0) return;
-        PostMessage(front, WM_COMMAND, IDOK, 0);
-        WaitUntil([front] { return !IsWindow(front); });
+        Answer(front, IDOK);
     }
 }
 
@@ -104,20 +96,12 @@ int ChangeRows(HWND page, HWND list) {
 
 // The first colour of the Colours page, by the picker's value of red.
 int ChangeColour(const Program& program, HWND page) {
-    constexpr int kEditColour = 1200;
-    constexpr int kColourItems = 1201;
     constexpr int kRedEdit = 126;
-    RECT place{};
-    GetWindowRect(GetDlgItem(page, kColourItems), &place);
-    TapAt((place.left + place.right) / 2, place.top + (place.bottom - place.top) / 8);
-    WaitUntil([&] { return IsWindowEnabled(GetDlgItem(page, kEditColour)) != FALSE; });
-    TapOn(GetDlgItem(page, kEditColour));
-    HWND picker = program.WaitForWindow(L"ColourPickerWin");
+    TapFirstColour(page);
+    HWND picker = program.OpenColourPicker(page);
     if (!picker) return 0;
     SendMessage(GetDlgItem(picker, kRedEdit), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"17"));
-    PostMessage(picker, WM_COMMAND, IDOK, 0);
-    WaitUntil([picker] { return !IsWindow(picker); });
-    return 1;
+    return Answer(picker, IDOK);
 }
 
 int ChangePage(HWND page) {
@@ -168,10 +152,9 @@ int main() {
     if (!main) return 2;
     int unchanged = 0;
     for (int row = 0; row < kPageCount; ++row) {
-        HWND page = program.OpenPage(row, kPages[row]);
+        HWND page = program.OpenPage(row);
         if (!page) return 3;
-        const bool isColours = lstrcmp(kPages[row], L"ColorSettingsWin") == 0;
-        const int changed = isColours ? ChangeColour(program, page) : ChangePage(page);
+        const int changed = row == kColoursRow ? ChangeColour(program, page) : ChangePage(page);
         std::printf("page %d: %d changes\n", row, changed);
         std::fflush(stdout);
         unchanged += changed == 0;

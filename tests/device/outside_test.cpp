@@ -40,7 +40,7 @@ TEST_F(Outside, ChangesByTapsAreSavedAndTold) {
     dashboard.onTold = [&] { soundWhenTold = StoredNumber(L"EnableSoundEffect"); };
     Program program;
     ASSERT_TRUE(program.WaitForPageList());
-    HWND page = program.OpenPage(kGeneralRow, kGeneral);
+    HWND page = program.OpenPage(kGeneralRow);
     ASSERT_NE(page, nullptr);
     // OnClick back to its default, by keys; AutoHeight off, by a tap.
     ASSERT_TRUE(WaitUntil([&] { return SendDlgItemMessage(page, 1201, CB_GETCURSEL, 0, 0) == 2; }));
@@ -60,7 +60,7 @@ TEST_F(Outside, ChangesByTapsAreSavedAndTold) {
     TapOn(GetDlgItem(page, 1218));
     EXPECT_TRUE(WaitUntil([&] { return IsDlgButtonChecked(page, 1218) == 0; }));
     TapOk();
-    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+    EXPECT_TRUE(GoesAway(page));
     EXPECT_FALSE(StoredNumber(L"EnableSoundEffect")) << "written by the page's OK";
     TapOk();
     EXPECT_EQ(program.WaitForExit(), 0u);
@@ -86,16 +86,14 @@ void RunBackupCommand(const Program& program, int entriesDown, const wchar_t* di
     Press(VK_RETURN);
     HWND dialog = program.WaitForWindow(dialogClass);
     ASSERT_NE(dialog, nullptr);
-    if (entriesDown > 0) {
-        // The list of the dialog that opens files has the focus: its last row is the backup.
-        Press(VK_END);
-    }
+    // The list of the dialog that opens files has the focus: its last row is the backup.
+    if (entriesDown > 0) Press(VK_END);
     Press(VK_RETURN);
-    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
+    EXPECT_TRUE(GoesAway(dialog));
     HWND message = program.WaitForMessageBox();
     ASSERT_NE(message, nullptr);
     Press(VK_RETURN);
-    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(message); }));
+    EXPECT_TRUE(GoesAway(message));
 }
 
 TEST_F(Outside, ABackupBringsEverythingBack) {
@@ -122,17 +120,17 @@ TEST_F(Outside, CancelAsksFirst) {
     DashboardListener dashboard;
     Program program;
     HWND window = program.WaitForPageList();
-    HWND page = program.OpenPage(kGeneralRow, kGeneral);
+    HWND page = program.OpenPage(kGeneralRow);
     ASSERT_NE(page, nullptr);
     TapOn(GetDlgItem(page, 1206));
     TapOk();
-    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+    ASSERT_TRUE(GoesAway(page));
 
     PostMessage(window, WM_COMMAND, IDCANCEL, 0);
     HWND question = program.WaitForMessageBox();
     ASSERT_NE(question, nullptr);
     TapOn(GetDlgItem(question, IDNO));
-    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(question); }));
+    ASSERT_TRUE(GoesAway(question));
     EXPECT_TRUE(program.IsRunning());
     // The keys work again, and the change is still in the store.
     Press(VK_RETURN);
@@ -140,7 +138,7 @@ TEST_F(Outside, CancelAsksFirst) {
     ASSERT_NE(page, nullptr);
     EXPECT_EQ(IsDlgButtonChecked(page, 1206), 0u);
     TapOk();
-    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+    ASSERT_TRUE(GoesAway(page));
 
     PostMessage(window, WM_COMMAND, IDCANCEL, 0);
     question = program.WaitForMessageBox();
@@ -156,7 +154,7 @@ TEST_F(Outside, ASecondStartBringsTheFirstForward) {
     Program first;
     HWND window = first.WaitForPageList();
     for (const bool withPage : {false, true}) {
-        HWND front = withPage ? first.OpenPage(kGeneralRow, kGeneral) : window;
+        HWND front = withPage ? first.OpenPage(kGeneralRow) : window;
         ASSERT_NE(front, nullptr);
         HWND cover = CreateWindowEx(WS_EX_TOPMOST, L"Static", L"cover", WS_POPUP | WS_VISIBLE, 0, 0,
                                     100, 100, nullptr, nullptr, nullptr, nullptr);
@@ -179,7 +177,7 @@ TEST_F(Outside, AboutOpensForExactlyThatWord) {
         HWND about = program.WaitForWindow(L"AboutWin");
         ASSERT_NE(about, nullptr);
         TapOn(GetDlgItem(about, IDOK));
-        EXPECT_TRUE(WaitUntil([&] { return !IsWindow(about); }));
+        EXPECT_TRUE(GoesAway(about));
         EXPECT_TRUE(program.WaitForPageList());
         TapOk();
         EXPECT_EQ(program.WaitForExit(), 0u);
@@ -212,7 +210,7 @@ TEST_F(Outside, SpeaksTheChosenLanguageAtTheNextStart) {
     for (const wchar_t* title : {L"General", L"Allgemein"}) {
         Program program;
         HWND window = program.WaitForPageList();
-        HWND page = program.OpenPage(kGeneralRow, kGeneral);
+        HWND page = program.OpenPage(kGeneralRow);
         ASSERT_NE(page, nullptr);
         EXPECT_EQ(TextOf(window), title);
         HWND languages = GetDlgItem(page, 1216);
@@ -221,7 +219,7 @@ TEST_F(Outside, SpeaksTheChosenLanguageAtTheNextStart) {
         ASSERT_GE(german, 0);
         SendMessage(languages, CB_SETCURSEL, static_cast<WPARAM>(german), 0);
         TapOk();
-        ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
+        ASSERT_TRUE(GoesAway(page));
         TapOk();
         EXPECT_EQ(program.WaitForExit(), 0u);
     }

@@ -2,8 +2,6 @@
 
 #include <commctrl.h>
 
-#include "shell/page_factory.h"
-
 namespace {
 constexpr int kWaitMilliseconds = 10'000;
 constexpr int kPollMilliseconds = 20;
@@ -59,6 +57,15 @@ bool WaitUntil(const std::function<bool()>& condition) {
     return condition();
 }
 
+bool GoesAway(HWND window) {
+    return WaitUntil([window] { return !IsWindow(window); });
+}
+
+bool Answer(HWND window, int button) {
+    PostMessage(window, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    return GoesAway(window);
+}
+
 void TapAt(int x, int y) {
     // Straight to the window that stands there. An injected click would land where the screen's own
     // pointer is whenever a window that comes or goes makes the screen report it.
@@ -80,6 +87,13 @@ void TapOn(HWND window) {
 void TapOk() {
     constexpr int kBarHalf = 13;
     TapAt(GetSystemMetrics(SM_CXSCREEN) - kBarHalf * Dpi() / 96, kBarHalf * Dpi() / 96);
+}
+
+void TapFirstColour(HWND page) {
+    constexpr int kColourItems = 1201;
+    RECT place{};
+    GetWindowRect(GetDlgItem(page, kColourItems), &place);
+    TapAt((place.left + place.right) / 2, place.top + (place.bottom - place.top) / 8);
 }
 
 void Press(WORD key) {
@@ -133,7 +147,7 @@ HWND Program::WaitForMessageBox() const {
     return WaitForWindow(L"#32770");
 }
 
-HWND Program::OpenPage(int row, const wchar_t* className) const {
+HWND Program::OpenPage(int row) const {
     HWND window = Find(L"OV_OPTIONS");
     HWND list = FindWindowEx(window, nullptr, WC_LISTVIEW, nullptr);
     const auto spacing = static_cast<DWORD>(SendMessage(list, LVM_GETITEMSPACING, FALSE, 0));
@@ -145,10 +159,18 @@ HWND Program::OpenPage(int row, const wchar_t* className) const {
     const int columns = (place.right - place.left) / width;
     TapAt(place.left + row % columns * width + width / 2,
           place.top + row / columns * height + height / 3);
-    HWND page = WaitForWindow(className);
+    HWND page = WaitForWindow(kPages[row].className);
     // A window shows before its controls are made; the program answers when it is done.
     SendMessage(window, WM_NULL, 0, 0);
     return page;
+}
+
+HWND Program::OpenColourPicker(HWND page) const {
+    constexpr int kEditColour = 1200;
+    HWND button = GetDlgItem(page, kEditColour);
+    WaitUntil([button] { return IsWindowEnabled(button) != FALSE; });
+    TapOn(button);
+    return WaitForWindow(L"ColourPickerWin");
 }
 
 bool Program::IsRunning() const {

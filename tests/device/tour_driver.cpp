@@ -7,29 +7,9 @@
 #include <cstdio>
 
 #include "resource_ids.h"
-#include "shell/page_factory.h"
 #include "ui/button_strip.h"
 
 namespace {
-struct PageSight {
-    const char* name;
-    const wchar_t* className;
-};
-
-constexpr PageSight kPages[kPageCount] = {
-    {"general", L"GeneralSettingsWin"},
-    {"calendar", L"CalendarSettingsWin"},
-    {"tasks", L"TasksSettingsWin"},
-    {"notes", L"NotesSettingsWin"},
-    {"contacts", L"ContactSettingsWin"},
-    {"messages", L"MessagesSettingsWin"},
-    {"special-events", L"SEventsSettingsWin"},
-    {"fonts", L"FontSettingsWin"},
-    {"colours", L"ColorSettingsWin"},
-    {"pim", L"PIMSettingsWin"},
-    {"tabs", L"TabsSettingsWin"},
-    {"category", L"CategorySettingsWin"},
-};
 constexpr int kGeneral = 0;
 constexpr int kCalendar = 1;
 constexpr int kTasks = 2;
@@ -44,11 +24,9 @@ constexpr UINT kTabList = 1206;
 constexpr UINT kAddTab = 1209;
 constexpr UINT kPluginList = 473;
 constexpr int kFonts = 7;
-constexpr int kColours = 8;
 constexpr int kCategory = 11;
 constexpr int kEditButton = 1210; // Of the Fonts page.
 constexpr int kFontItems = 1211;
-constexpr int kEditColour = 1200;
 constexpr int kColourItems = 1201;
 constexpr int kFontSetColour = 479;
 constexpr int kRedEdit = 126;
@@ -64,16 +42,11 @@ void Show(const char* name) {
     if (!std::fgets(answer, sizeof(answer), stdin)) ExitProcess(1);
 }
 
-void Close(HWND window, int answer) {
-    PostMessage(window, WM_COMMAND, static_cast<WPARAM>(answer), 0);
-    WaitUntil([window] { return !IsWindow(window); });
-}
-
 void ShowDialogOf(const Program& program, HWND button, const wchar_t* className, const char* name) {
     TapOn(button);
     if (HWND dialog = program.WaitForWindow(className)) {
         Show(name);
-        Close(dialog, IDCANCEL);
+        Answer(dialog, IDCANCEL);
     }
 }
 
@@ -141,7 +114,7 @@ void ShowOpenChoice() {
 void ShowMessageBox(const Program& program, const char* name) {
     if (HWND box = program.WaitForMessageBox()) {
         Show(name);
-        Close(box, IDOK);
+        Answer(box, IDOK);
     }
 }
 
@@ -152,7 +125,7 @@ void ShowQuestion(HWND dialog, const char* name) {
     HWND question = GetLastActivePopup(dialog);
     Show(name);
     PostMessage(question, WM_COMMAND, IDNO, 0);
-    WaitUntil([dialog] { return !IsWindow(dialog); });
+    GoesAway(dialog);
 }
 
 // A plug-in's tab selected, the dialog that adds one, its list, and the question about a plug-in
@@ -198,7 +171,7 @@ void ShowPicker(const Program& program) {
     // The button in the middle of the bar raises the input panel.
     TapAt(GetSystemMetrics(SM_CXSCREEN) / 2, GetSystemMetrics(SM_CYSCREEN) - 8);
     Show("picker-panel");
-    Close(picker, IDCANCEL);
+    Answer(picker, IDCANCEL);
 }
 
 void ShowFontItem(const Program& program, HWND page) {
@@ -210,7 +183,7 @@ void ShowFontItem(const Program& program, HWND page) {
     Show("dialog-font-style");
     TapOn(GetDlgItem(dialog, kFontSetColour));
     ShowPicker(program);
-    Close(dialog, IDCANCEL);
+    Answer(dialog, IDCANCEL);
     Press(VK_F1);
     Show("menu-fonts");
     Press(VK_ESCAPE);
@@ -220,10 +193,9 @@ void ShowFontItem(const Program& program, HWND page) {
 void ShowColourItem(const Program& program, HWND page) {
     SelectRow(GetDlgItem(page, kColourItems), 1);
     Show("colours-item");
-    TapOn(GetDlgItem(page, kEditColour));
-    if (HWND picker = program.WaitForWindow(L"ColourPickerWin")) {
+    if (HWND picker = program.OpenColourPicker(page)) {
         Show("picker-colour");
-        Close(picker, IDCANCEL);
+        Answer(picker, IDCANCEL);
     }
 }
 
@@ -250,7 +222,7 @@ void ShowFilterDialogs(const Program& program, HWND page) {
 }
 
 bool ShowPage(const Program& program, HWND main, int row) {
-    HWND page = program.OpenPage(row, kPages[row].className);
+    HWND page = program.OpenPage(row);
     if (!page) return false;
     HWND strip = FindWindowEx(page, nullptr, WC_TABCONTROL, nullptr);
     const auto tabs = static_cast<int>(SendMessage(strip, TCM_GETITEMCOUNT, 0, 0));
@@ -264,7 +236,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kCalendar && tab == 3) ShowOpenChoice();
         if (row == kTabs && tab == 1) ShowAddTab(program, page);
         if (row == kFonts && tab == 1) ShowFontItem(program, page);
-        if (row == kColours && tab == 0) ShowColourItem(program, page);
+        if (row == kColoursRow && tab == 0) ShowColourItem(program, page);
         if (row == kTasks && tab == 2) ShowIconChooser(page);
         if (row == kNotes && tab == 3) {
             TapOn(GetDlgItem(page, kRemoveFolder));
@@ -284,7 +256,7 @@ bool ShowPage(const Program& program, HWND main, int row) {
         if (row == kCategory && tab == 1) ShowFilterDialogs(program, page);
     }
     PostMessage(main, WM_COMMAND, IDOK, 0);
-    return WaitUntil([page] { return !IsWindow(page); });
+    return GoesAway(page);
 }
 
 // The file dialogs, and what is said of a file that is no backup.
@@ -293,27 +265,19 @@ void ShowBackups(const Program& program, HWND main) {
     if (HWND dialog = program.WaitForWindow(L"SaveFileWin")) {
         Show("dialog-save-file");
         PostMessage(dialog, WM_COMMAND, IDOK, 0);
-        HWND message = program.WaitForMessageBox();
-        Show("message-exported");
-        PostMessage(message, WM_COMMAND, IDOK, 0);
-        WaitUntil([&] { return !IsWindow(dialog); });
+        ShowMessageBox(program, "message-exported");
+        GoesAway(dialog);
     }
     PostMessage(main, WM_COMMAND, IDC_IMPORT_BACKUP, 0);
     if (HWND dialog = program.WaitForWindow(L"LoadFileWin")) {
         Show("dialog-open-file");
         PostMessage(dialog, WM_COMMAND, IDOK, 0);
-        HWND refusal = program.WaitForMessageBox();
-        Show("message-file-name");
-        PostMessage(refusal, WM_COMMAND, IDOK, 0);
-        WaitUntil([&] { return !IsWindow(refusal); });
+        ShowMessageBox(program, "message-file-name");
         constexpr int kNameBox = 111;
-        SendMessage(GetDlgItem(dialog, kNameBox), WM_SETTEXT, 0,
-                    reinterpret_cast<LPARAM>(L"No such file"));
+        SendDlgItemMessage(dialog, kNameBox, WM_SETTEXT, 0,
+                           reinterpret_cast<LPARAM>(L"No such file"));
         PostMessage(dialog, WM_COMMAND, IDOK, 0);
-        HWND message = program.WaitForMessageBox();
-        Show("message-not-imported");
-        PostMessage(message, WM_COMMAND, IDOK, 0);
-        WaitUntil([&] { return !IsWindow(message); });
+        ShowMessageBox(program, "message-not-imported");
     }
 }
 
@@ -339,7 +303,7 @@ int main() {
     PostMessage(main, WM_COMMAND, IDC_ABOUT, 0);
     if (HWND about = program.WaitForWindow(L"AboutWin")) {
         Show("dialog-about");
-        Close(about, IDOK);
+        Answer(about, IDOK);
     }
     PostMessage(main, WM_COMMAND, IDCANCEL, 0);
     HWND question = program.WaitForMessageBox();

@@ -4,25 +4,15 @@
 
 #include "files/category_icons.h"
 #include "settings/settings_store.h"
-#include "tests/settings/store_fixture.h"
+#include "tests/files/folder_fixture.h"
 #include "tests/support/image_files.h"
-#include "tests/support/install_folder.h"
 
 namespace {
 
 constexpr wchar_t kCategories[] = L"Software\\Teskel\\Orvane\\Categories";
 
-class CategoryStoreTest : public StoreFixture {
+class CategoryStoreTest : public FolderFixture {
   protected:
-    void SetUp() override {
-        StoreFixture::SetUp();
-        folder_.emplace();
-    }
-    void TearDown() override {
-        folder_.reset();
-        StoreFixture::TearDown();
-    }
-
     void Load() {
         LoadInto(settingsStore);
         store_.LoadCategoryStore();
@@ -34,7 +24,6 @@ class CategoryStoreTest : public StoreFixture {
         return names;
     }
 
-    std::optional<InstallFolder> folder_;
     CategoryStore store_;
 };
 

@@ -11,9 +11,9 @@
 #include "files/scheme_files.h"
 #include "files/settings_backup.h"
 #include "settings/settings_store.h"
+#include "tests/files/folder_fixture.h"
 #include "tests/settings/every_setting.h"
-#include "tests/settings/store_fixture.h"
-#include "tests/support/install_folder.h"
+#include "tests/support/child_process.h"
 #include "tests/support/resource_count.h"
 
 namespace {
@@ -22,11 +22,10 @@ constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
 // A key that the platform fails to close stays open, whatever the program does.
 constexpr ULONG kAllCalls = (kRegistryCalls | kFileCalls) & ~kRegCloseKeyCalls;
 
-class FaultsTest : public StoreFixture {
+class FaultsTest : public FolderFixture {
   protected:
     void SetUp() override {
-        StoreFixture::SetUp();
-        folder_.emplace();
+        FolderFixture::SetUp();
         folder_->SetCategories("1\t0\tHome\n2\t0\tWork\n");
         SetText(HKEY_CURRENT_USER, std::wstring(kTabs) + L"\\Weather", L"DLL", L"weather.dll");
         LoadInto(settingsStore);
@@ -35,10 +34,6 @@ class FaultsTest : public StoreFixture {
         SetUserNumber(L"Software\\Teskel\\Orvane\\Colors", L"HighlightBgClr", 5);
         CreateDirectory(folder_->PathOf(L"Schemes").c_str(), nullptr);
         backup_ = folder_->PathOf(L"Backup.ovsb");
-    }
-    void TearDown() override {
-        folder_.reset();
-        StoreFixture::TearDown();
     }
 
     // Does `work` over and over, each time with another one of its calls failing (from 1; at first,
@@ -72,7 +67,6 @@ class FaultsTest : public StoreFixture {
         return file.IsOpen() && ReadBackup(file, store_);
     }
 
-    std::optional<InstallFolder> folder_;
     CategoryStore store_;
     std::wstring backup_;
 };
@@ -191,7 +185,6 @@ TEST_F(FaultsTest, SchemesAreWholeOrNotThere) {
 }
 
 // --- The battery
-// ----------------------------------------------------------------------------------
 
 constexpr wchar_t kRegistryVariable[] = L"OV_TEST_REGISTRY";
 constexpr wchar_t kWriteVariable[] = L"OV_TEST_WRITE";
@@ -217,26 +210,9 @@ TEST(BatteryTest, DISABLED_SavesUntilItRunsOut) {
 DWORD RunOut(ULONG nth) {
     wchar_t program[MAX_PATH] = L"";
     GetModuleFileName(nullptr, program, MAX_PATH);
-    std::wstring command = L"\"" + std::wstring(program) +
-                           L"\" --gtest_also_run_disabled_tests --gtest_brief=1"
-                           L" --gtest_filter=BatteryTest.*";
     SetEnvironmentVariableW(kRegistryVariable, RegistryOfThisProcess().c_str());
     SetEnvironmentVariableW(kWriteVariable, std::to_wstring(nth).c_str());
-    STARTUPINFO startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES; // None: what it prints is not this test's.
-    PROCESS_INFORMATION process{};
-    if (!CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                       &startup, &process)) {
-        return 0;
-    }
-    DWORD code = 0;
-    if (WaitForSingleObject(process.hProcess, 20000) == WAIT_OBJECT_0) {
-        GetExitCodeProcess(process.hProcess, &code);
-    }
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return code;
+    return RunTests(program, L"--gtest_also_run_disabled_tests --gtest_filter=BatteryTest.*");
 }
 
 TEST_F(FaultsTest, WhatAnInterruptedSaveLeavesLoads) {

@@ -3,22 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "settings/settings_store.h"
-#include "tests/settings/store_fixture.h"
-#include "tests/support/install_folder.h"
+#include "tests/files/folder_fixture.h"
 
 namespace {
 
-class IconCatalogueTest : public StoreFixture {
+class IconCatalogueTest : public FolderFixture {
   protected:
-    void SetUp() override {
-        StoreFixture::SetUp();
-        folder_.emplace();
-    }
-    void TearDown() override {
-        folder_.reset();
-        StoreFixture::TearDown();
-    }
-
     void SetInstallPath(const wchar_t* name, const std::wstring& path) {
         SetText(HKEY_CURRENT_USER, std::wstring(kRoot) + L"\\IconSet", name, path);
     }
@@ -35,7 +25,6 @@ class IconCatalogueTest : public StoreFixture {
         return icons;
     }
 
-    std::optional<InstallFolder> folder_;
     IconCatalogue catalogue_;
 };
 

@@ -10,19 +10,18 @@
 #include "files/image_loader.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
-#include "tests/settings/store_fixture.h"
+#include "tests/files/folder_fixture.h"
 #include "tests/support/image_files.h"
-#include "tests/support/install_folder.h"
 
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
-class IconSetTest : public StoreFixture {
+class IconSetTest : public FolderFixture {
   protected:
     void SetUp() override {
-        StoreFixture::SetUp();
+        FolderFixture::SetUp();
         CoInitializeEx(nullptr, 0);
         ASSERT_EQ(CoCreateInstance(CLSID_ImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                                    IID_IImagingFactory,
@@ -31,16 +30,14 @@ class IconSetTest : public StoreFixture {
         library_.Reset(LoadLibrary(L"\\Program Files\\Teskel\\Orvane\\LowDpiRes.dll"));
         application.displayLibrary = library_.Get();
         ASSERT_TRUE(library_);
-        folder_.emplace();
     }
     void TearDown() override {
         icons_.Release();
-        folder_.reset();
         application.displayLibrary = nullptr;
         application.imagingFactory->Release();
         application.imagingFactory = nullptr;
         CoUninitialize();
-        StoreFixture::TearDown();
+        FolderFixture::TearDown();
     }
 
     void Write(const wchar_t* name, const std::string& bytes) {
@@ -64,7 +61,6 @@ class IconSetTest : public StoreFixture {
         return static_cast<bool>(LoadImageFile(folder_->PathOf(name).c_str()));
     }
 
-    std::optional<InstallFolder> folder_;
     UniqueModule library_;
     IconSet icons_;
 };
@@ -106,36 +102,15 @@ TEST_F(IconSetTest, LooksForFilesInItsOrder) {
 }
 
 TEST_F(IconSetTest, GivesEachSymbolItsOwnFileAndBitmap) {
-    struct Symbol {
-        const wchar_t* stem;
-        WORD number;
-    };
-    constexpr Symbol kSymbols[IconSet::kSymbolCount] = {
-        {L"note", 290},
-        {L"regenerated", 291},
-        {L"reminder", 287},
-        {L"high_importance", 292},
-        {L"low_importance", 293},
-        {L"recurring", 289},
-        {L"private", 286},
-        {L"link", 294},
-        {L"attendees", 288},
-        {L"active_task", 296},
-        {L"allday_appt", 295},
-        {L"appt_counter", 297},
-        {L"task_counter", 298},
-        {L"mail_counter", 299},
-        {L"notes_counter", 319},
-        {L"contacts_counter", 339},
-        {L"task_checked", 190},
-        {L"task_not_checked", 189},
-        {L"anniversary", 282},
-        {L"birthday", 283},
-        {L"tabs_left", 269},
-        {L"tabs_right", 270},
-        {L"category_symbol", 321},
-        {L"attached_icon_symbol", 323},
-    };
+    constexpr const wchar_t* kStems[IconSet::kSymbolCount] = {
+        L"note",           L"regenerated",      L"reminder",        L"high_importance",
+        L"low_importance", L"recurring",        L"private",         L"link",
+        L"attendees",      L"active_task",      L"allday_appt",     L"appt_counter",
+        L"task_counter",   L"mail_counter",     L"notes_counter",   L"contacts_counter",
+        L"task_checked",   L"task_not_checked", L"anniversary",     L"birthday",
+        L"tabs_left",      L"tabs_right",       L"category_symbol", L"attached_icon_symbol"};
+    constexpr WORD kNumbers[] = {290, 291, 287, 292, 293, 289, 286, 294, 288, 296, 295, 297,
+                                 298, 299, 319, 339, 190, 189, 282, 283, 269, 270, 321, 323};
     const auto pixels = [](HBITMAP bitmap) {
         std::vector<COLORREF> all;
         for (int place = 0; place < 12 * 12; ++place)
@@ -144,18 +119,17 @@ TEST_F(IconSetTest, GivesEachSymbolItsOwnFileAndBitmap) {
     };
     icons_.LoadIconSet(WideString());
     for (size_t index = 0; index < IconSet::kSymbolCount; ++index) {
-        const UniqueBitmap builtIn(
-            LoadBitmap(library_.Get(), MAKEINTRESOURCE(kSymbols[index].number)));
+        const UniqueBitmap builtIn(LoadBitmap(library_.Get(), MAKEINTRESOURCE(kNumbers[index])));
         EXPECT_EQ(pixels(icons_[static_cast<IconSymbol>(index)].bitmap.Get()),
                   pixels(builtIn.Get()))
-            << kSymbols[index].number;
-        Write((std::wstring(kSymbols[index].stem) + L".tga").c_str(),
+            << kNumbers[index];
+        Write((std::wstring(kStems[index]) + L".tga").c_str(),
               TgaFile(static_cast<uint16_t>(index + 13), 1, kBlue));
     }
     Load();
     for (size_t index = 0; index < IconSet::kSymbolCount; ++index) {
         EXPECT_EQ(WidthOf(static_cast<IconSymbol>(index)), static_cast<int>(index + 13))
-            << kSymbols[index].number;
+            << kNumbers[index];
     }
 }
 
@@ -195,10 +169,9 @@ TEST_F(IconSetTest, RefusesFilesThatAreNoPicturesOfTheirKind) {
     folder_->Write(L"bmp", BmpFile(1, 1, kRed));
     EXPECT_FALSE(Loads(L"a.jpg") || Loads(L"bmp") || Loads(L"missing.png"));
 
-    const std::string none;
     for (const wchar_t* name : {L"bad.png", L"bad.tga", L"bad.bmp"}) {
         for (const std::string& bytes :
-             {none, PngFile().substr(0, 40), BmpFile(9, 9, 1).substr(0, 60),
+             {std::string(), PngFile().substr(0, 40), BmpFile(9, 9, 1).substr(0, 60),
               TgaFile(9, 9, 1).substr(0, 30), std::string(500, '\xFF')}) {
             folder_->Write(name, bytes);
             EXPECT_FALSE(Loads(name)) << bytes.size();

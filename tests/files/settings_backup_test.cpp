@@ -4,8 +4,7 @@
 
 #include "files/scheme_files.h"
 #include "settings/settings_store.h"
-#include "tests/settings/store_fixture.h"
-#include "tests/support/install_folder.h"
+#include "tests/files/folder_fixture.h"
 #include "tests/support/memory_stream.h"
 
 namespace {
@@ -13,18 +12,13 @@ namespace {
 constexpr wchar_t kColours[] = L"Software\\Teskel\\Orvane\\Colors";
 constexpr wchar_t kFonts[] = L"Software\\Teskel\\Orvane\\Fonts";
 
-class SettingsBackupTest : public StoreFixture {
+class SettingsBackupTest : public FolderFixture {
   protected:
     void SetUp() override {
-        StoreFixture::SetUp();
-        folder_.emplace();
+        FolderFixture::SetUp();
         folder_->SetCategories("1\t0\tWork\n2\t0\tCaf\xC3\xA9\n");
         LoadInto(settingsStore);
         store_.LoadCategoryStore();
-    }
-    void TearDown() override {
-        folder_.reset();
-        StoreFixture::TearDown();
     }
 
     std::string Backup() const {
@@ -43,7 +37,6 @@ class SettingsBackupTest : public StoreFixture {
         return names;
     }
 
-    std::optional<InstallFolder> folder_;
     CategoryStore store_;
 };
 

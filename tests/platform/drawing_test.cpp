@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "temp_file.h"
+#include <windows.h>
 
 #include <algorithm>
 #include <cstring>
@@ -10,7 +10,6 @@
 namespace {
 
 constexpr COLORREF kKey = RGB(255, 0, 255);
-constexpr COLORREF kInk = RGB(16, 200, 8);
 
 // 32-bit pixels, the top row first, selected into a context of their own.
 struct Canvas {
@@ -65,30 +64,8 @@ TEST(DrawingTest, OneColorStaysOut) {
     ExpectOnlyInkDrawn(source.dc, 3);
     EXPECT_FALSE(TransparentImage(source.dc, 0, 0, 2, 2, source.bitmap, 0, 0, 2, 2, kKey))
         << "a bitmap that a context holds";
-    EXPECT_FALSE(TransparentImage(source.dc, 0, 0, 0, 2, source.dc, 0, 0, 2, 2, kKey));
-    EXPECT_FALSE(TransparentImage(source.dc, 0, 0, 2, 2, nullptr, 0, 0, 2, 2, kKey));
     SelectObject(source.dc, source.previous);
     ExpectOnlyInkDrawn(source.bitmap, 1);
-}
-
-// A bitmap file of 3 by 2 pixels, black but for the lower left one.
-std::string BitmapFileBytes(WORD depth, DWORD headerSize) {
-    const std::string ink = {static_cast<char>(GetBValue(kInk)), static_cast<char>(GetGValue(kInk)),
-                             static_cast<char>(GetRValue(kInk)), '\0'};
-    const std::string colors = depth == 8 ? std::string(4, '\0') + ink : "";
-    BITMAPV4HEADER header = {};
-    header.bV4Size = headerSize;
-    header.bV4Width = 3;
-    header.bV4Height = 2;
-    header.bV4Planes = 1;
-    header.bV4BitCount = depth;
-    header.bV4ClrUsed = static_cast<DWORD>(colors.size() / 4);
-    BITMAPFILEHEADER file = {};
-    file.bfType = 0x4D42;
-    file.bfOffBits = static_cast<DWORD>(sizeof file + headerSize + colors.size());
-    const std::string rows = depth == 8 ? '\1' + std::string(7, '\0') : ink + std::string(20, '\0');
-    return std::string(reinterpret_cast<const char*>(&file), sizeof file) +
-           std::string(reinterpret_cast<const char*>(&header), headerSize) + colors + rows;
 }
 
 // What lies to the left of a text's last pixel.
@@ -131,56 +108,6 @@ TEST(DrawingTest, TextIsAsWideAsItMeasures) {
             }
             DeleteObject(font);
         }
-    }
-}
-
-TEST(DrawingTest, WholeBitmapFilesLoad) {
-    const TempFile file(L"picture.bmp");
-    const HDC dc = CreateCompatibleDC(nullptr);
-    for (const WORD depth : {WORD{8}, WORD{24}}) {
-        for (const DWORD headerSize : {DWORD{40}, DWORD{sizeof(BITMAPV4HEADER)}}) {
-            file.Write(BitmapFileBytes(depth, headerSize));
-            const HBITMAP bitmap = SHLoadDIBitmap(file.Path());
-            BITMAP size = {};
-            ASSERT_EQ(GetObjectW(bitmap, sizeof size, &size), int{sizeof size}) << depth;
-            EXPECT_EQ(size.bmWidth, 3);
-            EXPECT_EQ(size.bmHeight, 2);
-            const HGDIOBJ previous = SelectObject(dc, bitmap);
-            EXPECT_EQ(GetPixel(dc, 0, 1), kInk) << depth << ", " << headerSize;
-            EXPECT_EQ(GetPixel(dc, 0, 0), 0u) << depth << ", " << headerSize;
-            SelectObject(dc, previous);
-            DeleteObject(bitmap);
-        }
-    }
-    DeleteDC(dc);
-}
-
-TEST(DrawingTest, BrokenBitmapFilesDoNotLoad) {
-    const TempFile file(L"picture.bmp");
-    EXPECT_EQ(SHLoadDIBitmap(file.Path()), nullptr);
-    const std::string whole = BitmapFileBytes(8, 40);
-    for (std::size_t length = 0; length < whole.size(); ++length) {
-        file.Write(whole.substr(0, length));
-        EXPECT_EQ(SHLoadDIBitmap(file.Path()), nullptr) << "cut at " << length;
-    }
-    const struct {
-        std::size_t offset;
-        DWORD value;
-        const char* what;
-    } kFields[] = {{10, 0xFFFFFFF0, "pixels beyond the end"},
-                   {14, 12, "short header"},
-                   {14, 0xFFFFFFFF, "endless header"},
-                   {18, 0x7FFFFFFF, "width"},
-                   {18, 0xFFFFFFFD, "negative width"},
-                   {22, 0x80000000, "height"},
-                   {22, 0, "no height"},
-                   {28, 0xFFFF, "depth"},
-                   {30, BI_RLE8, "compressed"}};
-    for (const auto& [offset, value, what] : kFields) {
-        std::string bytes = whole;
-        std::memcpy(&bytes[offset], &value, sizeof value);
-        file.Write(bytes);
-        EXPECT_EQ(SHLoadDIBitmap(file.Path()), nullptr) << what;
     }
 }
 

@@ -24,39 +24,7 @@ struct Shown {
     RECT text = {};
     RECT icon = {};
     std::vector<RECT> buttons; // From left to right.
-    LONG textNeeds = 0;        // The height of its text, wrapped to the width that it has.
-    bool lastLineDrawn = false;
 };
-
-// Whether anything is written in the lowest line of a text as high as it needs to be.
-bool IsLastLineDrawn(HWND text, LONG height) {
-    UpdateWindow(text);
-    RECT client;
-    GetClientRect(text, &client);
-    const HDC dc = GetDC(text);
-    const COLORREF background = GetPixel(dc, client.right - 1, height - 1);
-    bool drawn = false;
-    for (LONG y = height - Pixels(9); y < height && !drawn; ++y)
-        for (LONG x = 0; x < client.right && !drawn; ++x)
-            drawn = GetPixel(dc, x, y) != background;
-    ReleaseDC(text, dc);
-    return drawn;
-}
-
-LONG HeightNeeded(HWND text) {
-    wchar_t content[1024];
-    const int length = GetWindowTextW(text, content, static_cast<int>(std::size(content)));
-    RECT place;
-    GetClientRect(text, &place);
-    const HDC dc = GetDC(text);
-    const HGDIOBJ previous =
-        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(text, WM_GETFONT, 0, 0)));
-    DrawTextW(dc, content, length, &place,
-              DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX | DT_EDITCONTROL);
-    SelectObject(dc, previous);
-    ReleaseDC(text, dc);
-    return place.bottom;
-}
 
 Shown Measure(HWND box) {
     Shown shown;
@@ -67,8 +35,6 @@ Shown Measure(HWND box) {
         if (!IsWindowVisible(child)) continue;
         if (GetDlgCtrlID(child) == kTextId) {
             shown.text = PlaceOf(child);
-            shown.textNeeds = HeightNeeded(child);
-            shown.lastLineDrawn = IsLastLineDrawn(child, shown.textNeeds);
         } else if (SendMessageW(child, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) {
             shown.buttons.push_back(PlaceOf(child));
         } else if (SendMessageW(child, STM_GETICON, 0, 0)) {
@@ -79,25 +45,15 @@ Shown Measure(HWND box) {
     return shown;
 }
 
-using Ask = decltype(&MessageBoxW);
-
-// The box of a PC, past the device's libraries.
-Ask PlainMessageBox() {
-    return reinterpret_cast<Ask>(reinterpret_cast<void (*)()>(
-        GetProcAddress(GetModuleHandleW(L"user32.dll"), "MessageBoxW")));
-}
-
 // Asks, and answers with a button once the box waits. A watch of activations, as a program may have
 // one of its own, finds the box.
 class Asking {
   public:
-    Asking(Ask ask, const wchar_t* text, UINT type, int button, void (*whileOpen)() = nullptr)
-        : outer_(current), button_(button), whileOpen_(whileOpen) {
+    Asking(const wchar_t* text, UINT type, int button) : button_(button) {
         current = this;
         hook_ = SetWindowsHookExW(WH_CBT, OnHook, nullptr, GetCurrentThreadId());
-        answer = ask(nullptr, text, L"A caption that is somewhat long", type);
+        answer = MessageBoxW(nullptr, text, L"A caption that is somewhat long", type);
         UnhookWindowsHookEx(hook_);
-        current = outer_;
     }
     Asking(const Asking&) = delete;
     Asking& operator=(const Asking&) = delete;
@@ -110,27 +66,19 @@ class Asking {
 
     static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam) {
         HWND box = reinterpret_cast<HWND>(wParam);
-        if (code == HCBT_ACTIVATE && !current->box_ && GetDlgItem(box, kTextId)) {
-            current->box_ = box;
-            SetTimer(box, 1, 1, OnTimer);
-        }
+        if (code == HCBT_ACTIVATE && GetDlgItem(box, kTextId)) SetTimer(box, 1, 1, OnTimer);
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
     static void CALLBACK OnTimer(HWND box, UINT, UINT_PTR timer, DWORD) {
         if (!IsWindowVisible(box)) return;
         KillTimer(box, timer);
-        Asking& self = *current;
-        self.shown = Measure(box);
-        if (self.whileOpen_) self.whileOpen_();
-        SendDlgItemMessageW(box, self.button_, BM_CLICK, 0, 0);
+        current->shown = Measure(box);
+        SendDlgItemMessageW(box, current->button_, BM_CLICK, 0, 0);
     }
 
-    Asking* outer_;
     int button_;
-    void (*whileOpen_)();
     HHOOK hook_ = nullptr;
-    HWND box_ = nullptr;
 };
 
 bool Contains(const RECT& outer, const RECT& inner) {
@@ -138,20 +86,11 @@ bool Contains(const RECT& outer, const RECT& inner) {
     return IntersectRect(&both, &outer, &inner) && both == inner;
 }
 
-// Equal margins at both sides, but for the pixel that is left over.
-bool IsCentred(const RECT& outer, LONG left, LONG right) {
-    return std::abs((left - outer.left) - (outer.right - right)) <= 1;
-}
-
 void ExpectFits(const Shown& shown) {
     const RECT area = DeviceWorkArea();
     EXPECT_TRUE(Contains(area, shown.box)) << shown.box;
-    EXPECT_GT(shown.box.left, area.left);
     EXPECT_TRUE(Contains(shown.client, shown.text)) << shown.text << " in " << shown.client;
-    EXPECT_GE(shown.text.bottom - shown.text.top, shown.textNeeds);
-    EXPECT_TRUE(shown.lastLineDrawn);
     ASSERT_FALSE(shown.buttons.empty());
-    EXPECT_TRUE(IsCentred(shown.client, shown.buttons.front().left, shown.buttons.back().right));
     const RECT* previous = nullptr;
     for (const RECT& button : shown.buttons) {
         EXPECT_TRUE(Contains(shown.client, button)) << button << " in " << shown.client;
@@ -173,105 +112,20 @@ TEST(MessageBoxTest, FitsTheScreen) {
     };
     const Case cases[] = {
         {kQuestion, MB_YESNO, 2, IDNO},
-        {kQuestion, MB_YESNO | MB_ICONWARNING, 2, IDYES},
-        {kQuestion, MB_OK, 1, IDOK},
-        {L"Short & plain.\nTwo lines, with an icon.", MB_YESNOCANCEL | MB_ICONQUESTION, 3,
-         IDCANCEL},
-        {kQuestion, MB_ABORTRETRYIGNORE | MB_HELP | MB_ICONWARNING, 4, IDRETRY},
+        {kQuestion, MB_YESNOCANCEL | MB_ICONQUESTION, 3, IDCANCEL},
         {kPath, MB_OK | MB_ICONERROR, 1, IDOK},
     };
     for (const Case& asked : cases) {
         SCOPED_TRACE(testing::Message() << "type " << asked.type);
-        const Asking asking(MessageBoxW, asked.text, asked.type, asked.answer);
+        const Asking asking(asked.text, asked.type, asked.answer);
         EXPECT_EQ(asking.answer, asked.answer);
         EXPECT_EQ(asking.shown.buttons.size(), asked.buttons);
         ExpectFits(asking.shown);
-        if (!(asked.type & MB_ICONMASK)) {
-            EXPECT_LE(asking.shown.text.left - asking.shown.client.left, Pixels(10));
-            continue;
-        }
+        if (!(asked.type & MB_ICONMASK)) continue;
         EXPECT_TRUE(Contains(asking.shown.client, asking.shown.icon)) << asking.shown.icon;
         EXPECT_GT(asking.shown.text.left, asking.shown.icon.right);
         EXPECT_GT(asking.shown.buttons.front().top, asking.shown.icon.bottom);
     }
-}
-
-TEST(MessageBoxTest, KeepsTheButtonsOfATextTallerThanTheScreen) {
-    std::wstring text;
-    for (int line = 0; line < 60; ++line)
-        text += L"A line\n";
-    for (const UINT type : {MB_YESNO, MB_YESNO | MB_ICONWARNING}) {
-        const Asking asking(MessageBoxW, text.c_str(), type, IDNO);
-        EXPECT_EQ(asking.answer, IDNO);
-        EXPECT_TRUE(Contains(DeviceWorkArea(), asking.shown.box)) << asking.shown.box;
-        if (type & MB_ICONMASK) {
-            EXPECT_TRUE(Contains(asking.shown.client, asking.shown.icon)) << asking.shown.icon;
-        }
-        ASSERT_EQ(asking.shown.buttons.size(), 2u);
-        for (const RECT& button : asking.shown.buttons) {
-            EXPECT_TRUE(Contains(asking.shown.client, button)) << button;
-            EXPECT_GT(button.top, asking.shown.text.bottom);
-        }
-    }
-}
-
-TEST(MessageBoxTest, LeavesABoxThatFitsAsItIs) {
-    const Asking plain(PlainMessageBox(), L"No.", MB_OK, IDOK);
-    const Asking device(MessageBoxW, L"No.", MB_OK, IDOK);
-    EXPECT_TRUE(Contains(DeviceWorkArea(), plain.shown.box)) << plain.shown.box;
-    EXPECT_EQ(device.shown.box, plain.shown.box);
-    EXPECT_EQ(device.shown.text, plain.shown.text);
-    EXPECT_EQ(device.shown.buttons, plain.shown.buttons);
-}
-
-// Whether a box of a PC still comes as a PC lays it out: wider than the screen.
-void ExpectPlainBoxIsLeftAlone() {
-    const Asking plain(PlainMessageBox(), kQuestion, MB_OK, IDOK);
-    EXPECT_FALSE(Contains(DeviceWorkArea(), plain.shown.box)) << plain.shown.box;
-}
-
-TEST(MessageBoxTest, FitsOnlyTheBoxThatWasAskedFor) {
-    const Asking outer(MessageBoxW, kQuestion, MB_YESNO, IDYES, [] {
-        const Asking inner(MessageBoxW, kQuestion, MB_OK | MB_ICONWARNING, IDOK);
-        EXPECT_EQ(inner.answer, IDOK);
-        ExpectFits(inner.shown);
-        ExpectPlainBoxIsLeftAlone();
-    });
-    EXPECT_EQ(outer.answer, IDYES);
-    ExpectFits(outer.shown);
-    ExpectPlainBoxIsLeftAlone();
-
-    // No box comes up for an owner that is none.
-    EXPECT_LE(MessageBoxW(reinterpret_cast<HWND>(UINT_PTR{0xBAD0}), L"", L"", MB_OK), 0);
-    ExpectPlainBoxIsLeftAlone();
-}
-
-int WINAPI AskForActiveWindow(HWND, LPCWSTR text, LPCWSTR caption, UINT type) {
-    return MessageBoxW(GetActiveWindow(), text, caption, type);
-}
-
-// A program's window may ask something itself while a box of another opens: when it is disabled.
-TEST(MessageBoxTest, FitsBoxesThatOpenWhileAnotherOpens) {
-    static Shown second;
-    static int questions;
-    static WNDPROC original;
-    questions = 0;
-    const ProgramWindow program;
-    original = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(program.window, GWLP_WNDPROC,
-                          reinterpret_cast<LONG_PTR>(+[](HWND window, UINT message, WPARAM wParam,
-                                                         LPARAM lParam) -> LRESULT {
-                              if (message == WM_ENABLE && !wParam && questions++ == 0) {
-                                  const Asking asking(MessageBoxW, kQuestion, MB_OK, IDOK);
-                                  second = asking.shown;
-                              }
-                              return CallWindowProcW(original, window, message, wParam, lParam);
-                          })));
-    const Asking first(AskForActiveWindow, kQuestion, MB_YESNO, IDYES);
-    EXPECT_EQ(first.answer, IDYES);
-    EXPECT_GE(questions, 1);
-    ExpectFits(second);
-    ExpectFits(first.shown);
 }
 
 } // namespace

@@ -74,7 +74,6 @@ bool PumpUntil(Condition holds) {
 }
 
 struct ProgramWindowOptions {
-    const wchar_t* title = L"Program";
     DWORD style = WS_VISIBLE | WS_CLIPSIBLINGS;
     DWORD exStyle = WS_EX_CAPTIONOKBTN;
     RECT place = {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}; // Fills the work area.
@@ -91,7 +90,7 @@ class ProgramWindow {
         RegisterClassW(&windowClass);
         const RECT& place = options.place;
         const bool byDefault = place.left == CW_USEDEFAULT;
-        window = CreateWindowExW(options.exStyle, L"ProgramWindow", options.title, options.style,
+        window = CreateWindowExW(options.exStyle, L"ProgramWindow", L"Program", options.style,
                                  place.left, place.top,
                                  byDefault ? CW_USEDEFAULT : place.right - place.left,
                                  byDefault ? CW_USEDEFAULT : place.bottom - place.top,
@@ -105,7 +104,6 @@ class ProgramWindow {
 
     HWND window = nullptr;
     std::vector<int> commands; // The ids of the WM_COMMANDs that came.
-    int activations = 0;       // WM_ACTIVATEs, of gaining and of losing it.
     int moves = 0;             // WM_MOVEs.
     RECT clientAtCreation = {};
     SHACTIVATEINFO activation = {sizeof(SHACTIVATEINFO), nullptr, 0, 0, 0, 0};
@@ -136,7 +134,6 @@ class ProgramWindow {
             if (HIWORD(wParam) == 0) commands.push_back(LOWORD(wParam));
             break;
         case WM_ACTIVATE:
-            ++activations;
             SHHandleWMActivate(handle, wParam, lParam, &activation, 0);
             break;
         case WM_SETTINGCHANGE:

@@ -14,7 +14,6 @@
 #include "shell/services/application.h"
 #include "shell/services/scaling.h"
 #include "tests/settings/store_fixture.h"
-#include "tests/support/resource_count.h"
 
 namespace {
 
@@ -127,37 +126,6 @@ TEST_F(ItemSampleTest, ShowsEveryChangeAtOnce) {
                  {&SettingsStore::FontGnrlUseAdvncd, 1},
                  {&SettingsStore::IndentItems, 1}},
                 [this] { return Task(); });
-}
-
-// Whatever the registry holds, the same objects serve every picture.
-TEST_F(ItemSampleTest, AnyValueIsSafeAndNothingLeaks) {
-    DwordSetting SettingsStore::*const settings[] = {
-        &SettingsStore::ApptDisplayFormat,  &SettingsStore::ApptLeftAlignIcon1,
-        &SettingsStore::ApptLeftAlignIcon2, &SettingsStore::TaskLeftAlignIcon1,
-        &SettingsStore::TaskLeftAlignIcon2, &SettingsStore::TaskTabLeftAlignIcon1,
-        &SettingsStore::TasksRightIcons,    &SettingsStore::ClrApptRightIcons,
-        &SettingsStore::IndentItems,        &SettingsStore::LeadingRects,
-        &SettingsStore::HumanTime,          &SettingsStore::Force2DigitsTImeFrmt,
-        &SettingsStore::FontGnrlSize,       &SettingsStore::UseShadowColor,
-        &SettingsStore::FontGnrlUseAdvncd,  &SettingsStore::GeneralFontColor,
-        &SettingsStore::ClrStatusBusy,      &SettingsStore::ShadowFontColor,
-    };
-    store_->FontFaceToUse.value = WideString(std::wstring(300, L'x').c_str());
-    const auto paintAll = [&] {
-        for (const uint32_t value : {0xFFFFFFFFU, 0x80000000U, 0x7FFFFFFFU, 0U, 1U}) {
-            for (const auto setting : settings)
-                ((*store_).*setting).value = value;
-            store_->FontCalApptBusy.logFont.lfHeight = static_cast<LONG>(value);
-            store_->FontCalApptBusy.logFont.lfWeight = static_cast<LONG>(value);
-            Appointment();
-            Task();
-        }
-    };
-    paintAll();
-    const size_t before = CountGdiObjects();
-    for (int i = 0; i < 10; ++i)
-        paintAll();
-    EXPECT_EQ(CountGdiObjects(), before);
 }
 
 TEST_F(ItemSampleTest, NeedsNeitherIconsNorRoom) {

@@ -2,45 +2,27 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+
 namespace {
 
+void ExpectRead(std::initializer_list<const wchar_t*> texts, uint32_t number) {
+    for (const wchar_t* text : texts)
+        EXPECT_EQ(NumberFromText(text), number) << text;
+}
+
 TEST(NumberText, ReadsByPrefix) {
-    struct Case {
-        const wchar_t* text;
-        uint32_t number;
-    };
-    const Case cases[] = {
-        {L"", 0},
-        {L"abc", 0},
-        {L"-", 0},
-        {L"+-1", 0},
-        {L"160", 160},
-        {L"010", 8},
-        {L"08", 0},
-        {L"0178", 15},
-        {L"0x10", 16},
-        {L"0XaF", 0xAF},
-        {L"0x", 0},
-        {L"0xg1", 0},
-        {L"00x1", 0},
-        {L" \t\r\n 42 ", 42},
-        {L"+7", 7},
-        {L"-0x10", 0xFFFFFFF0},
-        {L"-010", 0xFFFFFFF8},
-        {L"- 5", 0},
-        {L"12 34", 12},
-        {L"12px", 12},
-        {L"1.9", 1},
-        {L"\xFF11", 0}, // A digit of another script.
-        // What was stored reads back, shown either way.
-        {L"4294967295", 0xFFFFFFFF},
-        {L"-1", 0xFFFFFFFF},
-        {L"-2147483648", 0x80000000},
-        {L"4294967297", 1},
-        {L"0x1FFFFFFFF", 0xFFFFFFFF},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(NumberFromText(c.text), c.number) << c.text;
+    ExpectRead({L"", L"abc", L"-", L"+-1", L"08", L"0x", L"0xg1", L"00x1", L"- 5"}, 0);
+    ExpectRead({L"\xFF11"}, 0); // A digit of another script.
+    ExpectRead({L"160", L"0xa0", L"0240", L" \t\r\n 160 ", L"+160", L"160px", L"160 2", L"160.9"},
+               160);
+    ExpectRead({L"0XaF"}, 0xAF);
+    ExpectRead({L"0178"}, 15);
+    ExpectRead({L"-0x10", L"-020", L"-16"}, 0xFFFFFFF0);
+    // What was stored reads back, shown either way.
+    ExpectRead({L"4294967295", L"-1", L"0x1FFFFFFFF"}, 0xFFFFFFFF);
+    ExpectRead({L"-2147483648"}, 0x80000000);
+    ExpectRead({L"4294967297"}, 1);
 }
 
 TEST(NumberText, ReadsDecimal) {

@@ -6,17 +6,12 @@
 
 #include "shell/services/application.h"
 #include "shell/services/handles.h"
+#include "tests/support/child_process.h"
 #include "tests/support/string_library.h"
 
 namespace {
 
 constexpr UINT kId = 1436;
-
-std::wstring TemporaryFile(const wchar_t* name) {
-    wchar_t folder[MAX_PATH];
-    GetTempPathW(MAX_PATH, folder);
-    return std::wstring(folder) + name;
-}
 
 std::wstring OwnPath() {
     wchar_t path[MAX_PATH];
@@ -26,7 +21,7 @@ std::wstring OwnPath() {
 
 TEST(ResourceStrings, ComeFromTheLibraryAndAreCutAtTheBuffer) {
     const std::wstring longText(1500, L'w');
-    const std::wstring path = TemporaryFile(L"ResourceStrings.dll");
+    const std::wstring path = OwnPath() + L".dll";
     ASSERT_TRUE(MakeStringLibrary(path, kId, longText));
     {
         const UniqueModule library(LoadLibraryW(path.c_str()));
@@ -48,32 +43,15 @@ TEST(ResourceStrings, ComeFromTheLibraryAndAreCutAtTheBuffer) {
 // Is set for the copy of this program that the test below runs.
 constexpr wchar_t kCopyVariable[] = L"OV_TEST_IN_COPY_WITH_TEXTS";
 
-DWORD RunInCopy(const std::wstring& copy) {
-    std::wstring command = L"\"" + copy + L"\" --gtest_filter=ResourceStrings.NoLibrary*";
-    STARTUPINFOW start = {};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES; // None: its report would look like this program's.
-    PROCESS_INFORMATION child = {};
-    SetEnvironmentVariableW(kCopyVariable, L"1");
-    const BOOL started = CreateProcessW(copy.c_str(), command.data(), nullptr, nullptr, FALSE, 0,
-                                        nullptr, nullptr, &start, &child);
-    SetEnvironmentVariableW(kCopyVariable, nullptr);
-    DWORD exitCode = ~0U;
-    if (!started) return exitCode;
-    WaitForSingleObject(child.hProcess, INFINITE);
-    GetExitCodeProcess(child.hProcess, &exitCode);
-    CloseHandle(child.hThread);
-    CloseHandle(child.hProcess);
-    return exitCode;
-}
-
 // Shows only in a program that has texts of its own, so the test runs itself in such a copy.
 TEST(ResourceStrings, NoLibraryIsNotTheProgramItself) {
     if (GetEnvironmentVariableW(kCopyVariable, nullptr, 0) == 0) {
         const std::wstring copy = OwnPath() + L".texts.exe";
         ASSERT_TRUE(CopyFileW(OwnPath().c_str(), copy.c_str(), FALSE));
         ASSERT_TRUE(AddString(copy, kId, L"own"));
-        EXPECT_EQ(RunInCopy(copy), 0U);
+        ASSERT_TRUE(SetEnvironmentVariableW(kCopyVariable, L"1"));
+        EXPECT_EQ(RunTests(copy, L"--gtest_filter=ResourceStrings.NoLibrary*"), 0U);
+        SetEnvironmentVariableW(kCopyVariable, nullptr);
         DeleteFileW(copy.c_str());
         return;
     }

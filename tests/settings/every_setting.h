@@ -16,13 +16,17 @@ void ForEachRow(Visit visit) {
     }
 }
 
+// A font's numbers, in the order of their names.
+inline constexpr std::pair<const wchar_t*, DwordSetting FontSetting::*> kFontNumbers[] = {
+    {L"lfWeight", &FontSetting::weight},       {L"lfItalic", &FontSetting::italic},
+    {L"lfUnderline", &FontSetting::underline}, {L"lfStrikeOut", &FontSetting::strikeOut},
+    {L"lfHeight", &FontSetting::height},       {L"lfColor", &FontSetting::colour}};
+
 struct ValueNames {
     std::vector<std::wstring> operator()(const FontRow& row) const {
         std::vector<std::wstring> names;
-        for (const wchar_t* suffix :
-             {L"lfWeight", L"lfItalic", L"lfUnderline", L"lfStrikeOut", L"lfHeight", L"lfColor"}) {
+        for (const auto& [suffix, number] : kFontNumbers)
             names.push_back(std::wstring(row.name) + suffix);
-        }
         return names;
     }
     std::vector<std::wstring> operator()(const auto& row) const { return {row.name}; }
@@ -83,11 +87,8 @@ struct SetDefault {
         setting.Set(setting.defaultValue.CStr());
     }
     void operator()(const FontRow& row) const {
-        FontSetting& font = store.*row.member;
-        for (DwordSetting* setting : {&font.weight, &font.italic, &font.underline, &font.strikeOut,
-                                      &font.height, &font.colour}) {
-            Reset(*setting);
-        }
+        for (const auto& [name, number] : kFontNumbers)
+            Reset(store.*row.member.*number);
     }
     void operator()(const BitsRow&) const {}
 };
@@ -103,10 +104,8 @@ struct Shown {
     std::wstring operator()(const FontRow& row) const {
         const FontSetting& font = store.*row.member;
         std::wstring shown;
-        for (const DwordSetting* setting : {&font.weight, &font.italic, &font.underline,
-                                            &font.strikeOut, &font.height, &font.colour}) {
-            shown += std::to_wstring(setting->value) + L" ";
-        }
+        for (const auto& [name, number] : kFontNumbers)
+            shown += std::to_wstring((font.*number).value) + L" ";
         const LOGFONT& log = font.logFont;
         return shown + std::to_wstring(log.lfWeight) + L" " + std::to_wstring(log.lfItalic) + L" " +
                std::to_wstring(log.lfUnderline) + L" " + std::to_wstring(log.lfStrikeOut) + L" " +

@@ -7,7 +7,6 @@
 
 #include "platform/include/stand_in.h"
 #include "tests/settings/store_fixture.h"
-#include "tests/support/string_library.h"
 
 namespace {
 
@@ -41,19 +40,6 @@ TEST_F(TabListTest, AnEmptyKeyGivesTheOwnTabs) {
     EXPECT_EQ(OrderOf(store->tabs), L"2 4 16 64 32 8 ");
     for (const auto& tab : store->tabs.All())
         EXPECT_EQ(tab->enabled, 1U);
-}
-
-TEST_F(TabListTest, OwnTabsTakeTheirCaptionsFromTheLanguageLibrary) {
-    wchar_t folder[MAX_PATH];
-    GetTempPathW(MAX_PATH, folder);
-    const std::wstring path = std::wstring(folder) + L"TabCaptions.dll";
-    ASSERT_TRUE(MakeStringLibrary(path, 1419, L"Post"));
-    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", path);
-    const auto store = LoadStore();
-    EXPECT_STREQ(store->tabs.FindType(TabType::Mail)->name.CStr(), L"Post");
-    EXPECT_STREQ(store->tabs.FindType(TabType::Notes)->name.CStr(), L"");
-    languageLibrary_.Reset();
-    DeleteFileW(path.c_str());
 }
 
 TEST_F(TabListTest, EqualOrdersStandAsTheyCome) {
@@ -104,12 +90,11 @@ TEST_F(TabListTest, OwnTabsAreWrittenFromTheList) {
     // What the dashboard changes meanwhile stays, where the list left the tab alone.
     SetUserNumber(kTabs, L"MailTabEnabled", 0);
     store->Save();
-    EXPECT_EQ(GetUserNumber(kTabs, L"CalendarTabOrder"), 12U);
-    EXPECT_EQ(GetUserNumber(kTabs, L"TasksTabOrder"), 14U);
-    EXPECT_EQ(GetUserNumber(kTabs, L"SEventsTabOrder"), 18U);
-    EXPECT_EQ(GetUserNumber(kTabs, L"NotesTabOrder"), 26U);
-    EXPECT_EQ(GetUserNumber(kTabs, L"MailTabOrder"), 42U);
-    EXPECT_EQ(GetUserNumber(kTabs, L"ContactsTabOrder"), 74U);
+    const std::pair<const wchar_t*, uint32_t> orders[] = {{L"Calendar", 12}, {L"Tasks", 14},
+                                                          {L"SEvents", 18},  {L"Notes", 26},
+                                                          {L"Mail", 42},     {L"Contacts", 74}};
+    for (const auto& [tab, order] : orders)
+        EXPECT_EQ(GetUserNumber(kTabs, std::wstring(tab) + L"TabOrder"), order) << tab;
     EXPECT_EQ(GetUserNumber(kTabs, L"NotesTabEnabled"), 0U);
     EXPECT_EQ(GetUserNumber(kTabs, L"MailTabEnabled"), 0U);
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kTabs, L"TasksTabEnabled"));
