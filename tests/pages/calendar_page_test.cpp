@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/pages/calendar_page_fixture.h"
+#include "ui/button_strip.h"
 #include "ui/key_navigation.h"
 
 namespace {
@@ -18,49 +19,6 @@ constexpr int kAppointmentRightIcons = 1265;
 constexpr int kDisplayFormat = 1272;
 
 using CalendarPageTest = CalendarPageFixture;
-
-struct FormCase {
-    int id;
-    Number setting;
-    bool isCombo;
-    uint32_t stored;
-    int chosen;
-};
-constexpr FormCase kFormCases[] = {
-    {1203, &SettingsStore::FirstWeekInYear, true, 3, 2},
-    {1205, &SettingsStore::ClrTextColor, true, 2, 1},
-    {1206, &SettingsStore::HideEmptyGroups, false, 0, 1},
-    {1207, &SettingsStore::HideEmptyGroupsItem, false, 1, 0},
-    {1208, &SettingsStore::SEventsOnClr, false, 1, 0},
-    {1209, &SettingsStore::ClrSortTsksWithAppts, false, 1, 0},
-    {1211, &SettingsStore::dAppoPassedToday, true, 1, 0},
-    {1213, &SettingsStore::LeadingRects, true, 2, 0},
-    {1215, &SettingsStore::Conflicting, true, 0, 2},
-    {1216, &SettingsStore::IncludeYearlyCounters, false, 0, 1},
-    {1217, &SettingsStore::HideAlldayEventIcon, false, 1, 0},
-    {1220, &SettingsStore::WeatehrLayout, true, 3, 2},
-    {1222, &SettingsStore::WeatehrOnClick, true, 0, 1},
-};
-
-// One control at a time, so that two that were swapped show.
-TEST_F(CalendarPageTest, EveryFormControlShowsAndSavesItsOwnSetting) {
-    for (const FormCase& changed : kFormCases) {
-        for (const FormCase& other : kFormCases)
-            (settingsStore.*other.setting).Set(other.stored);
-        OpenAt(0);
-        const auto message = static_cast<UINT>(changed.isCombo ? CB_GETCURSEL : BM_GETCHECK);
-        EXPECT_EQ(SendMessage(Control(changed.id), message, 0, 0),
-                  static_cast<LRESULT>(changed.stored));
-        SendMessage(Control(changed.id), changed.isCombo ? CB_SETCURSEL : BM_SETCHECK,
-                    static_cast<WPARAM>(changed.chosen), 0);
-        Close();
-        for (const FormCase& other : kFormCases) {
-            EXPECT_EQ((settingsStore.*other.setting).value,
-                      other.id == changed.id ? static_cast<uint32_t>(changed.chosen) : other.stored)
-                << other.id << " after " << changed.id;
-        }
-    }
-}
 
 TEST_F(CalendarPageTest, ShowsNumbersThatItDoesNotOffer) {
     settingsStore.dNumOfDays.Set(45);
@@ -154,6 +112,41 @@ TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
     EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u - 32);
     choose(4, 256);
     EXPECT_EQ(settingsStore.TaskLeftAlignIcon2.value, 256u);
+}
+
+// A button of the icons at the right, which the focus is on, is named by its text and adds its
+// flag.
+TEST_F(CalendarPageTest, TheIconsAreNamedByTheirFlags) {
+    struct Strip {
+        int id;
+        DwordSetting& setting;
+        std::vector<std::pair<uint32_t, UINT>> buttons; // Flag and text.
+    };
+    const Strip strips[] = {
+        {kAppointmentRightIcons,
+         settingsStore.ClrApptRightIcons,
+         {{1, 650}, {2, 651}, {4, 652}, {8, 653}, {16, 654}, {64, 655}, {128, 1211}, {256, 1212}}},
+        {1271,
+         settingsStore.ClrTaskRightIcons,
+         {{1, 650}, {2, 651}, {4, 652}, {8, 653}, {16, 654}, {32, 656}, {64, 655}, {256, 1212}}}};
+    for (DwordSetting* left :
+         {&settingsStore.ApptLeftAlignIcon1, &settingsStore.ApptLeftAlignIcon2,
+          &settingsStore.TaskLeftAlignIcon1, &settingsStore.TaskLeftAlignIcon2})
+        left->Set(0);
+    for (const Strip& strip : strips)
+        strip.setting.Set(0);
+    OpenAt(4);
+    for (const Strip& strip : strips) {
+        SetFocus(Control(strip.id));
+        for (const auto& [flag, text] : strip.buttons) {
+            SendMessage(Control(strip.id), WM_TIMER, 1, 0);
+            EXPECT_EQ(TextOf(FindWindow(L"ToolTipWindow", nullptr)), Text(text));
+            const uint32_t before = strip.setting.value;
+            SendMessage(Control(strip.id), BM_CLICK, 0, 0);
+            EXPECT_EQ(strip.setting.value - before, flag);
+            SendMessage(Control(strip.id), kMessageStepButton, TRUE, 0);
+        }
+    }
 }
 
 // A number that is no icon's may hold the bit of one.

@@ -286,20 +286,4 @@ TEST_F(CategoryPageTest, LeavesAFolderAloneThatIsLongerThanItTakes) {
     EXPECT_FALSE(settingsStore.AdditionalIconsFolder.changed);
 }
 
-// Another program may close the main window while a dialog, and the page below, are open.
-TEST_F(CategoryPageTest, SurvivesBeingClosedBehindItsDialogs) {
-    struct Dialog {
-        int button;
-        const wchar_t* className;
-    };
-    for (const Dialog& dialog : {Dialog{kIcon, kPicker},
-                                 {kColour, kColourPicker},
-                                 {kRename, L"#32770"},
-                                 {kFolderBrowse, L"SelectFolderWin"}}) {
-        HWND page = OpenPage();
-        SelectCategory(page, L"Home");
-        TapAndWork(page, dialog.button, dialog.className, {[this](HWND) { Close(); }});
-        EXPECT_FALSE(IsWindow(page)) << dialog.button;
-    }
-}
 } // namespace

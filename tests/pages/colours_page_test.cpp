@@ -110,16 +110,6 @@ TEST_F(ColoursPageTest, LeavesTheColourWhereNothingIsChosen) {
     Close();
 }
 
-// Another program may close the page while the picker is open.
-TEST_F(ColoursPageTest, SurvivesBeingClosedBehindThePicker) {
-    HWND window = Open();
-    SelectRow(GetDlgItem(window, kColours), 2);
-    const DialogSteps steps(kPicker, {[this](HWND) { Close(); }});
-    Tap(window, kEdit);
-    EXPECT_FALSE(IsWindow(window));
-    EXPECT_FALSE(settingsStore.GeneralFontColor.changed);
-}
-
 TEST_F(ColoursPageTest, ListsNoHigherThanTheirRoom) {
     MoveWindow(owner_, 0, Scale(26), Scale(320), Scale(108), FALSE); // Turned, above the panel.
     HWND window = Open();

@@ -46,7 +46,6 @@ class GeneralPageTest : public PageFixture {
 };
 
 std::wstring dialogTitle;
-std::unique_ptr<SettingsPage>* openPage;
 
 constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
 
@@ -77,77 +76,6 @@ TEST_F(GeneralPageTest, ChangesReachTheStoreAndDefaultsLeaveTheRegistry) {
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"dHeightLimitLandscape")) << "8 is below 60";
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kRoot, L"SkinPath"), L"\\My Documents\\Skin");
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"LoadingDelay"), 5u);
-}
-
-// Every number of the page, each by the control that edits it: two that were swapped would show.
-TEST_F(GeneralPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        bool isCombo;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    const Row rows[] = {
-        {1201, L"OnClick", true, 1, 2},
-        {1203, L"OnDoubleClick", true, 2, 1},
-        {1217, L"EnableSoundEffect", false, 0, 1},
-        {1218, L"GoofyMode", false, 1, 0},
-        {1219, L"IndentItems", false, 1, 0},
-        {1221, L"FilterTtlAlign", true, 2, 1},
-        {1222, L"RemoveTabsBar", false, 1, 0},
-        {1223, L"RemoveSettingsButton", false, 1, 0},
-        {1224, L"RemoveSeparatingLine", false, 0, 1},
-        {1225, L"DPadEnabled", false, 0, 1},
-        {1227, L"DPadMode", true, 1, 0},
-        {1229, L"DPadCompleteAction", true, 0, 1},
-        {1231, L"DPadScrollingAction", true, 2, 1},
-        {1232, L"DPadDoubleClickTabSwitching", false, 1, 0},
-        {1233, L"ExclusiveDPadNavig", false, 1, 0},
-        {1234, L"UseDoubleClickScroll", false, 0, 1},
-        {1235, L"UseFullScrollings", false, 0, 1},
-        {1238, L"RemoveHighlight", false, 1, 0},
-        {1240, L"LoadingDelay", true, 3, 4},
-    };
-    for (const Row& changed : rows) {
-        for (const Row& row : rows)
-            SetNumber(HKEY_CURRENT_USER, kRoot, row.name, row.stored);
-        HWND window = Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(
-                SendDlgItemMessage(window, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
-                static_cast<LRESULT>(row.stored))
-                << row.id;
-        }
-        if (changed.isCombo)
-            Choose(window, changed.id, static_cast<int>(changed.chosen));
-        else
-            SendDlgItemMessage(window, changed.id, BM_SETCHECK, changed.chosen, 0);
-        Close();
-        settingsStore.Save();
-        settingsStore.Load(application.languageLibrary);
-        Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(SendDlgItemMessage(page_->hwnd, row.id,
-                                         row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
-                      static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
-}
-
-TEST_F(GeneralPageTest, ShowsOneTabAtATime) {
-    HWND window = Open();
-    const int oneOfEachTab[] = {1206, 1217, 1222, 1225, 1234};
-    for (int tab = 0; tab < 5; ++tab) {
-        ShowTab(tab);
-        for (int other = 0; other < 5; ++other) {
-            EXPECT_EQ(IsWindowVisible(GetDlgItem(window, oneOfEachTab[other])), tab == other)
-                << tab;
-        }
-    }
-    Close();
 }
 
 TEST_F(GeneralPageTest, OffersHeightsAndKeepsOthers) {
@@ -315,18 +243,4 @@ TEST_F(GeneralPageTest, SavesTheBoxesOfWideScreens) {
     EXPECT_EQ(settingsStore.UseThinLines.value, 1u);
 }
 
-// Another program may close the main window while the folder dialog, and the page below, are open.
-TEST_F(GeneralPageTest, SurvivesBeingClosedBehindTheFolderDialog) {
-    HWND window = Open();
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
-        if (!dialog) return;
-        KillTimer(nullptr, timer);
-        ClosePage(**openPage);
-        openPage->reset();
-    });
-    openPage = &page_;
-    Tap(window, 1214);
-    EXPECT_FALSE(IsWindow(window));
-}
 } // namespace

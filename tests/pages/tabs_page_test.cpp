@@ -96,45 +96,6 @@ TEST_F(TabsPageTest, MovesAndTicksTabsAndNumbersThemFromTwo) {
     Close();
 }
 
-// Each of the forms' controls with its own setting: two that were swapped would show.
-TEST_F(TabsPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    const Row rows[] = {
-        {1201, L"TabsMode", 1, 0},        {1203, L"TabGesturesMode", 2, 0},
-        {1205, L"TabGesturEffect", 0, 1}, {1212, L"DfltTabTimeOut", 6, 3},
-        {1214, L"DfltTab", 5, 4},
-    };
-    for (const Row& changed : rows) {
-        for (const Row& row : rows)
-            SetNumber(HKEY_CURRENT_USER, kTabSettings, row.name, row.stored);
-        HWND window = Open();
-        Choose(window, changed.id, static_cast<int>(changed.chosen));
-        EXPECT_EQ(IsEnabled(1205), changed.id != 1203);
-        Close();
-        settingsStore.Save();
-        Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(SendDlgItemMessage(page_->hwnd, row.id, CB_GETCURSEL, 0, 0),
-                      static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
-    SetNumber(HKEY_CURRENT_USER, kTabSettings, L"DfltTabOnStartup", 2);
-    Open();
-    EXPECT_EQ(IsDlgButtonChecked(page_->hwnd, 1215), 1u) << "any number but 0";
-    Reopen();
-    EXPECT_EQ(settingsStore.DfltTabOnStartup.value, 1u);
-    Tap(page_->hwnd, 1215);
-    Close();
-    EXPECT_EQ(settingsStore.DfltTabOnStartup.value, 0u);
-}
-
 TEST_F(TabsPageTest, OffersPluginsAloneAndWantsOneSelected) {
     RegisterItem(L"Date", 0, 1);
     RegisterItem(L"Orvane", 4, 1);
@@ -259,13 +220,4 @@ TEST_F(TabsPageTest, IsWorkedByKeys) {
     Close();
 }
 
-// Another program may close the main window, and the page, while the dialog is open.
-TEST_F(TabsPageTest, SurvivesBeingClosedBehindTheDialog) {
-    RegisterItem(L"Alarm", 4, 0);
-    HWND window = Open();
-    const DialogSteps work(L"#32770", {[this](HWND) { Close(); }});
-    Tap(window, kAdd);
-    EXPECT_FALSE(IsWindow(window));
-    EXPECT_EQ(Stored().find(L"Alarm"), std::wstring::npos);
-}
 } // namespace

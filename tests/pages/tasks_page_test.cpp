@@ -66,26 +66,6 @@ class TasksPageTest : public PageFixture {
     }
 };
 
-// Every number of the forms, each by the control that edits it: two that were swapped would show.
-TEST_F(TasksPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    constexpr ControlCase kControls[] = {
-        {1201, L"TsksDateFrmt", true, 11, 4},
-        {1203, L"TsksLimitFutureDate", true, 7, 2},
-        {1204, L"HideCompletedTasks", false, 1, 0},
-        {1205, L"HidePastCompletedTasks", false, 0, 1},
-        {1206, L"ConfirmTaskCompleteTsks", false, 0, 1},
-        {1207, L"RemoveUndatedLeadingStr", false, 1, 0},
-        {1208, L"RemoveUndatedTsks", false, 1, 0},
-        {1210, L"TsksLineBreaker", true, 0, 2},
-        {1212, L"TsksFoldingType", true, 0, 1},
-        {1213, L"TsksUseSmartFolding", false, 0, 1},
-        {1214, L"IncludeCountersTsks", false, 0, 1},
-        {1221, L"UseCustomDateTsks", false, 1, 0},
-        {1227, L"TsksCustomDateStruct", true, 2, 0},
-    };
-    ExpectEachControlToSaveItsOwn(kTasks, kControls);
-}
-
 TEST_F(TasksPageTest, SavesTheTextsOfCustomDatesAsTyped) {
     SetText(HKEY_CURRENT_USER, kTasks, L"CustomDateFrmtStart", L"d.M.");
     SetText(HKEY_CURRENT_USER, kTasks, L"CustomDateFrmtEnd", L"ddd");
@@ -213,22 +193,6 @@ TEST_F(TasksPageTest, TheIconsAreWorkedByKeys) {
     press(VK_LEFT); // No further button.
     EXPECT_EQ(GetDlgCtrlID(GetFocus()), kLeft2);
     Close();
-}
-
-// Another program may close the main window, and the page, while a chooser's menu is open.
-std::unique_ptr<SettingsPage>* openPage;
-
-TEST_F(TasksPageTest, SurvivesBeingClosedBehindAMenu) {
-    HWND window = OpenIcons(0, 0, 383);
-    openPage = &page_;
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        ClosePage(**openPage);
-        openPage->reset();
-    });
-    SendDlgItemMessage(window, kLeft1, BM_CLICK, 0, 0);
-    EXPECT_FALSE(IsWindow(window));
-    ExpectIcons(0, 0, 383);
 }
 
 // The screen's pointer follows in its own time.

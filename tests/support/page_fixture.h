@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -20,16 +19,6 @@
 #include "shell/services/scaling.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
-
-// A control of a page, the value that it edits, what is stored at first, and what is chosen then:
-// the index of an entry, or the state of a box.
-struct ControlCase {
-    int id;
-    const wchar_t* name;
-    bool isCombo;
-    uint32_t stored;
-    uint32_t chosen;
-};
 
 class PageFixture : public RegistryFixture {
   protected:
@@ -107,33 +96,6 @@ class PageFixture : public RegistryFixture {
         ReleaseDC(window, dc);
         EXPECT_NE(drawn, blank);
         return shown == drawn;
-    }
-
-    uint32_t Shown(const ControlCase& control) const {
-        return static_cast<uint32_t>(SendDlgItemMessage(
-            page_->hwnd, control.id, control.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0));
-    }
-
-    // Changes each control alone, by way of the registry: two that were swapped would show.
-    void ExpectEachControlToSaveItsOwn(const wchar_t* key, std::span<const ControlCase> controls) {
-        for (const ControlCase& changed : controls) {
-            for (const ControlCase& control : controls)
-                SetNumber(HKEY_CURRENT_USER, key, control.name, control.stored);
-            HWND window = Open();
-            if (changed.isCombo)
-                Choose(window, changed.id, static_cast<int>(changed.chosen));
-            else
-                Tap(window, changed.id);
-            Close();
-            settingsStore.Save();
-            Open();
-            for (const ControlCase& control : controls) {
-                EXPECT_EQ(Shown(control),
-                          control.id == changed.id ? control.chosen : control.stored)
-                    << control.id << " after " << changed.id;
-            }
-            Close();
-        }
     }
 
     HWND owner_ = nullptr;
