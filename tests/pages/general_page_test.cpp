@@ -2,50 +2,40 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 #include "platform/include/stand_in.h"
+#include "tests/support/dialog_steps.h"
+#include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
 
 namespace {
-constexpr wchar_t kProgramFiles[] = L"\\GeneralPageTest";
-constexpr wchar_t kLanguageFolder[] = L"\\GeneralPageTest\\Teskel\\Orvane\\LangRes";
-constexpr wchar_t kInstalled[] = L"\\Program Files\\Teskel\\Orvane";
-
-std::wstring InLanguageFolder(const wchar_t* name) {
-    return std::wstring(kLanguageFolder) + L"\\" + name;
-}
-
-void CopyInstalled(const wchar_t* from, const wchar_t* to) {
-    ASSERT_TRUE(
-        CopyFile((std::wstring(kInstalled) + from).c_str(), InLanguageFolder(to).c_str(), FALSE))
-        << from;
-}
-
-// The page with its own language folder.
 class GeneralPageTest : public PageFixture {
   protected:
     GeneralPageTest() : PageFixture(0) {}
 
     void SetUp() override {
         PageFixture::SetUp();
-        CreateDirectory(kProgramFiles, nullptr);
-        CreateDirectory(L"\\GeneralPageTest\\Teskel", nullptr);
-        CreateDirectory(L"\\GeneralPageTest\\Teskel\\Orvane", nullptr);
-        CreateDirectory(kLanguageFolder, nullptr);
-        SetText(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Orvane", L"ProgramFiles",
-                kProgramFiles);
+        folder_.emplace();
+        folder_->Write(L"LangRes\\readme.txt", "");
     }
-
     void TearDown() override {
         PageFixture::TearDown();
-        for (const wchar_t* name : {L"Aaa.dll", L"Bbb.dll", L"Ccc.dll"})
-            DeleteFile(InLanguageFolder(name).c_str());
+        folder_.reset();
         StandInSetOsVersion(0, 0);
     }
-};
 
-std::wstring dialogTitle;
+    [[nodiscard]] std::wstring InLanguageFolder(const wchar_t* name) const {
+        return folder_->PathOf(std::wstring(L"LangRes\\") + name);
+    }
+    void CopyInstalled(const wchar_t* from, const wchar_t* to) const {
+        const std::wstring installed = std::wstring(L"\\Program Files\\Teskel\\Orvane") + from;
+        ASSERT_TRUE(CopyFile(installed.c_str(), InLanguageFolder(to).c_str(), FALSE)) << from;
+    }
+
+    std::optional<InstallFolder> folder_;
+};
 
 constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
 
@@ -129,14 +119,6 @@ TEST_F(GeneralPageTest, SavesDisabledHeightsAsShown) {
     EXPECT_TRUE(settingsStore.dHeightLimit.changed);
 }
 
-TEST_F(GeneralPageTest, ShowsNothingForAnIndexOutOfRange) {
-    SetNumber(HKEY_CURRENT_USER, kRoot, L"DPadCompleteAction", 9);
-    HWND window = Open();
-    EXPECT_EQ(SendDlgItemMessage(window, 1229, CB_GETCURSEL, 0, 0), -1);
-    Close();
-    EXPECT_EQ(settingsStore.DPadCompleteAction.value, 0xFFFFFFFFu);
-}
-
 TEST_F(GeneralPageTest, HasWhatThePlatformOffers) {
     struct Version {
         DWORD major;
@@ -181,38 +163,22 @@ TEST_F(GeneralPageTest, ANamelessLibraryShiftsThePaths) {
     EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), InLanguageFolder(L"Bbb.dll"));
 }
 
-TEST_F(GeneralPageTest, KeepsTheLanguageWhenThereIsNone) {
-    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", L"\\Lost.dll");
-    Open();
-    Close();
-    EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), std::wstring(L"\\Lost.dll"));
-}
-
-// Presses a button of the folder dialog from inside its loop.
-UINT answer;
-
-void CALLBACK AnswerFolderDialog(HWND, UINT, UINT_PTR timer, DWORD) {
-    HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
-    if (!dialog) return;
-    KillTimer(nullptr, timer);
-    dialogTitle = TextOf(GetParent(GetParent(dialog)));
-    SendMessage(dialog, WM_COMMAND, answer, 0);
-}
-
 TEST_F(GeneralPageTest, ClearsAndBrowsesTheSkinPath) {
-    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", kLanguageFolder);
+    const std::wstring folder = folder_->PathOf(L"LangRes");
+    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", folder);
     HWND window = Open();
     HWND edit = GetDlgItem(window, 1212);
-    EXPECT_EQ(TextOf(edit), kLanguageFolder);
+    EXPECT_EQ(TextOf(edit), folder);
     Tap(window, 1213);
     EXPECT_EQ(TextOf(edit), L"");
     for (const UINT button : {IDCANCEL, IDOK}) {
-        answer = button;
-        SetWindowText(edit, (std::wstring(kProgramFiles) + L"\\").c_str());
-        SetTimer(nullptr, 0, 20, AnswerFolderDialog);
+        SetWindowText(edit, (folder + L"\\").c_str());
+        const DialogSteps answer(L"SelectFolderWin", {[&](HWND dialog) {
+                                     EXPECT_EQ(TextOf(owner_), L"Select Skin Path");
+                                     SendMessage(dialog, WM_COMMAND, button, 0);
+                                 }});
         Tap(window, 1214);
-        EXPECT_EQ(dialogTitle, L"Select Skin Path");
-        EXPECT_EQ(TextOf(edit), std::wstring(kProgramFiles) + (button == IDOK ? L"" : L"\\"));
+        EXPECT_EQ(TextOf(edit), folder + (button == IDOK ? L"" : L"\\"));
     }
     Tap(window, 1213);
     Close();
