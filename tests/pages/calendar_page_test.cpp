@@ -80,38 +80,28 @@ TEST_F(CalendarPageTest, OffersTheWeatherWhereItsProductIs) {
 }
 
 TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
-    settingsStore.ClrApptRightIcons.Set(4 + 16);
-    settingsStore.ApptLeftAlignIcon2.Set(8);
-    OpenAt(4);
-    const auto choose = [this](int code, uint32_t flag) {
-        SendMessage(window_, kMessageToolbarMenuSelect, flag, code);
+    struct Side {
+        int code;
+        DwordSetting& left;
+        DwordSetting& right;
     };
-    const auto tapRight = [this](int button) {
-        RECT strip{};
-        GetClientRect(Control(kAppointmentRightIcons), &strip);
-        const LPARAM place = MAKELPARAM(strip.right * (2 * button + 1) / 16, strip.bottom / 2);
-        SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONDOWN, 0, place);
-        SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONUP, 0, place);
-        return settingsStore.ClrApptRightIcons.value;
-    };
-    choose(1, 4);
-    EXPECT_EQ(settingsStore.ApptLeftAlignIcon1.value, 4u);
-    EXPECT_EQ(settingsStore.ClrApptRightIcons.value, 16u);
-    EXPECT_EQ(tapRight(2), 16u) << "4 is at the left";
-    EXPECT_EQ(tapRight(3), 16u) << "8 has been there from the start";
-    EXPECT_EQ(tapRight(0), 17u);
-    choose(1, 8);
-    EXPECT_EQ(tapRight(2), 21u) << "4 is offered again";
-    choose(1, 0);
-    EXPECT_EQ(tapRight(3), 21u) << "8 is still the other one's";
-    choose(2, 0);
-    EXPECT_EQ(tapRight(3), 29u);
-    EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u) << "tasks have icons of their own";
-    choose(3, 32);
-    EXPECT_EQ(settingsStore.TaskLeftAlignIcon1.value, 32u);
-    EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u - 32);
-    choose(4, 256);
-    EXPECT_EQ(settingsStore.TaskLeftAlignIcon2.value, 256u);
+    const Side sides[] = {{1, settingsStore.ApptLeftAlignIcon1, settingsStore.ClrApptRightIcons},
+                          {2, settingsStore.ApptLeftAlignIcon2, settingsStore.ClrApptRightIcons},
+                          {3, settingsStore.TaskLeftAlignIcon1, settingsStore.ClrTaskRightIcons},
+                          {4, settingsStore.TaskLeftAlignIcon2, settingsStore.ClrTaskRightIcons}};
+    for (const Side& chosen : sides) {
+        for (const Side& side : sides) {
+            side.left.Set(0);
+            side.right.Set(4 + 16);
+        }
+        OpenAt(4);
+        SendMessage(window_, kMessageToolbarMenuSelect, 4, chosen.code);
+        for (const Side& side : sides) {
+            EXPECT_EQ(side.left.value, side.code == chosen.code ? 4u : 0u) << chosen.code;
+            EXPECT_EQ(side.right.value, &side.right == &chosen.right ? 16u : 20u) << chosen.code;
+        }
+        Close();
+    }
 }
 
 // A button of the icons at the right, which the focus is on, is named by its text and adds its
@@ -147,18 +137,6 @@ TEST_F(CalendarPageTest, TheIconsAreNamedByTheirFlags) {
             SendMessage(Control(strip.id), kMessageStepButton, TRUE, 0);
         }
     }
-}
-
-// A number that is no icon's may hold the bit of one.
-TEST_F(CalendarPageTest, ANumberThatIsNoIconOffersNone) {
-    settingsStore.ApptLeftAlignIcon1.Set(1 + 2);
-    settingsStore.ApptLeftAlignIcon2.Set(1);
-    settingsStore.ClrApptRightIcons.Set(16);
-    OpenAt(4);
-    SendMessage(window_, kMessageToolbarMenuSelect, 4, 1);
-    SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONDOWN, 0, MAKELPARAM(2, 2));
-    SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
-    EXPECT_EQ(settingsStore.ClrApptRightIcons.value, 16u) << "1 is at the left";
 }
 
 TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {

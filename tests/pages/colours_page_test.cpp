@@ -10,6 +10,7 @@
 #include "tests/support/dialog_steps.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
+#include "tests/support/text_words.h"
 #include "ui/list_items.h"
 
 namespace {
@@ -42,7 +43,6 @@ TEST_F(ColoursPageTest, EachRowEditsItsOwnColour) {
     };
     HWND window = Open();
     HWND list = GetDlgItem(window, kColours);
-    ASSERT_EQ(RowCount(list), 16);
     for (int row = 0; row < 16; ++row) {
         SelectRow(list, row);
         WideString html;
@@ -61,19 +61,10 @@ TEST_F(ColoursPageTest, EachRowEditsItsOwnColour) {
     Close();
 }
 
-TEST_F(ColoursPageTest, NamesAndDescribesEachColour) {
-    HWND window = Open();
-    HWND list = GetDlgItem(window, kColours);
-    RECT client{};
-    GetClientRect(window, &client);
-    const RECT above{Scale(10), ScaleY(8), client.right - Scale(10), ScaleY(50)};
-    std::wstring labels;
-    for (UINT row = 0; row < 16; ++row) {
-        labels += (row ? L"|" : L"") + Text(883 + row);
-        SelectRow(list, static_cast<int>(row));
-        EXPECT_TRUE(ShowsText(above, Text(899 + row), DT_WORDBREAK)) << row;
-    }
-    EXPECT_EQ(RowsOf(list), labels);
+TEST_F(ColoursPageTest, ListsEachColour) {
+    HWND list = GetDlgItem(Open(), kColours);
+    EXPECT_EQ(RowsOf(list),
+              Expand(L"883|884|885|886|887|888|889|890|891|892|893|894|895|896|897|898"));
     Close();
 }
 

@@ -163,6 +163,13 @@ TEST_F(GeneralPageTest, ANamelessLibraryShiftsThePaths) {
     EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), InLanguageFolder(L"Bbb.dll"));
 }
 
+TEST_F(GeneralPageTest, KeepsTheLanguageWhenThereIsNone) {
+    SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", L"\\Lost.dll");
+    Open();
+    Close();
+    EXPECT_STREQ(settingsStore.SelectedLangResFile.value.CStr(), L"\\Lost.dll");
+}
+
 TEST_F(GeneralPageTest, ClearsAndBrowsesTheSkinPath) {
     const std::wstring folder = folder_->PathOf(L"LangRes");
     SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", folder);

@@ -9,7 +9,6 @@
 #include "shell/services/resource_strings.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/page_fixture.h"
-#include "ui/key_navigation.h"
 #include "ui/list_items.h"
 
 namespace {
@@ -29,11 +28,6 @@ void RegisterItem(const wchar_t* name, uint32_t type, uint32_t enabled) {
     SetNumber(HKEY_LOCAL_MACHINE, ItemKey(name), L"Type", type);
     SetNumber(HKEY_LOCAL_MACHINE, ItemKey(name), L"Enabled", enabled);
     SetText(HKEY_LOCAL_MACHINE, ItemKey(name), L"DLL", std::wstring(L"\\") + name + L".dll");
-}
-
-void Press(HWND root, WPARAM key) {
-    const MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
-    if (!TranslateNavigationKey(root, message)) SendMessage(message.hwnd, WM_KEYDOWN, key, 0);
 }
 
 const DialogSteps::Step kOk = [](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); };
@@ -189,35 +183,25 @@ TEST_F(TabsPageTest, RefusesASecondTabOfAPluginAndRemovesHostedTabsAlone) {
     EXPECT_EQ(GetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Mail"), L"Enabled"), 0u);
 }
 
-TEST_F(TabsPageTest, IsWorkedByKeys) {
-    RegisterItem(L"Alarm", 4, 0);
+TEST_F(TabsPageTest, LeavesTheFocusOnTheListWhenATabIsRemoved) {
     SetNumber(HKEY_CURRENT_USER, std::wstring(kTabSettings) + L"\\Alarm", L"Order", 2);
     HWND window = Open();
     ShowTab(1);
-    FocusFirstControl(window);
-    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kList);
-    Press(window, VK_RETURN);
-    EXPECT_FALSE(IsRowTicked(List(), 0));
     Select(L"Alarm");
     SetFocus(GetDlgItem(window, kRemove));
-    Press(window, VK_RETURN);
+    Tap(window, kRemove);
     EXPECT_EQ(Rows(), kOwnTabs);
     EXPECT_EQ(GetDlgCtrlID(GetFocus()), kList) << "not on the disabled button";
-
-    int first = 0;
-    int after = 0;
-    Add({[&](HWND) {
-             first = GetDlgCtrlID(GetFocus());
-             PostMessage(GetFocus(), WM_KEYDOWN, VK_DOWN, 0);
-         },
-         [&](HWND) {
-             after = GetDlgCtrlID(GetFocus());
-             PostMessage(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
-         }});
-    EXPECT_EQ(first, 473);
-    EXPECT_EQ(after, IDCANCEL);
-    EXPECT_EQ(Rows(), kOwnTabs);
     Close();
 }
 
+// A gesture's effect needs gestures.
+TEST_F(TabsPageTest, EnablesTheEffectOfGestures) {
+    HWND window = Open();
+    for (const int gestures : {0, 2, 0}) {
+        Choose(window, 1203, gestures);
+        EXPECT_EQ(IsEnabled(1205), gestures != 0);
+    }
+    Close();
+}
 } // namespace

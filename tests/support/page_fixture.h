@@ -78,48 +78,9 @@ class PageFixture : public RegistryFixture {
         return text;
     }
 
-    // Whether a part of the page shows this text alone: drawn over it, nothing changes.
-    [[nodiscard]] bool ShowsText(const RECT& part, const std::wstring& text, UINT format) const {
-        HWND window = page_->hwnd;
-        UpdateWindow(window);
-        const auto font = reinterpret_cast<HFONT>(SendMessage(page_->tabStrip, WM_GETFONT, 0, 0));
-        HDC dc = GetDC(window);
-        const std::vector<uint32_t> shown = PixelsIn(dc, part);
-        FillRect(dc, &part, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-        const std::vector<uint32_t> blank = PixelsIn(dc, part);
-        {
-            const SelectScope pageFont(dc, font);
-            RECT place = part;
-            DrawText(dc, text.c_str(), -1, &place, format);
-        }
-        const std::vector<uint32_t> drawn = PixelsIn(dc, part);
-        ReleaseDC(window, dc);
-        EXPECT_NE(drawn, blank);
-        return shown == drawn;
-    }
-
     HWND owner_ = nullptr;
     std::unique_ptr<SettingsPage> page_;
 
   private:
-    static std::vector<uint32_t> PixelsIn(HDC dc, const RECT& part) {
-        const LONG width = part.right - part.left;
-        const LONG height = part.bottom - part.top;
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        const UniqueBitmap bitmap(CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        const UniqueDc copy(CreateCompatibleDC(dc));
-        const SelectScope selected(copy.Get(), bitmap.Get());
-        BitBlt(copy.Get(), 0, 0, width, height, dc, part.left, part.top, SRCCOPY);
-        GdiFlush();
-        const auto* pixels = static_cast<const uint32_t*>(bits);
-        return {pixels, pixels + width * height};
-    }
-
     int row_;
 };
