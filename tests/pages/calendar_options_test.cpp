@@ -359,68 +359,39 @@ TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
     EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 1u);
 }
 
-// Another program may close the main window while a page that is being closed has the box up.
-TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
+// Another program may close the main window, and the page with it, while the refusal is up.
+enum class Refused { ByRow, ByTab, ByClosing };
+class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterface<Refused> {};
+
+TEST_P(RefusalTest, SurvivesTheEndOfAllWindowsBehindIt) {
     settingsStore.dHeightLimit.Set(0);
-    OpenAt(8);
+    OpenAt(0);
     Choose(window_, kDays, 11);
-    Select(kMiscellaneousList, 6);
-    Select(kTitles, 0);
-    Tap(window_, kDown);
     ShowTab(5);
     Select(kMonthList, 9);
     Change(1);
-    static HWND mainWindow;
-    mainWindow = owner_;
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        if (!FindWindow(L"#32770", nullptr)) return;
-        EXPECT_FALSE(IsWindowEnabled(mainWindow));
-        EXPECT_EQ(settingsStore.dNumOfDays.value, 12u) << "stored before the user is told";
-        EXPECT_EQ(TitleOrder(), "102345");
-        KillTimer(nullptr, timer);
-        DestroyWindow(mainWindow);
-    });
-    Close();
-    EXPECT_FALSE(IsWindow(owner_));
-    EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
-    EXPECT_EQ(settingsStore.dNumOfDays.value, 12u);
-    EXPECT_EQ(TitleOrder(), "102345");
-}
-
-// The same while the page itself has it up: the page and its lists go as well.
-class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterface<bool> {
-  protected:
-    static inline RefusalTest* current_;
-    static inline int boxes_;
-
-  public:
-    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-        if (!FindWindow(L"#32770", nullptr)) return;
-        ++boxes_;
-        if (!current_->page_) return;
-        current_->Close();
-        DestroyWindow(current_->owner_);
-    }
-};
-
-TEST_P(RefusalTest, SurvivesTheEndOfThePageBehindIt) {
-    settingsStore.dHeightLimit.Set(0);
-    OpenAt(5);
-    Select(kMonthList, 9);
-    Change(1);
-    current_ = this;
-    boxes_ = 0;
-    const UINT_PTR timer = SetTimer(nullptr, 0, 20, OnTimer);
-    if (GetParam())
-        ShowTab(6);
-    else
-        Select(kMonthList, 0);
+    int boxes = 0;
+    const auto end = [&](HWND) {
+        ++boxes;
+        if (GetParam() == Refused::ByClosing) {
+            EXPECT_FALSE(IsWindowEnabled(owner_));
+            EXPECT_EQ(settingsStore.dNumOfDays.value, 12u) << "stored before the user is told";
+        } else {
+            Close();
+        }
+        DestroyWindow(owner_);
+    };
+    const DialogSteps steps(L"#32770", {end, end});
+    if (GetParam() == Refused::ByRow) Select(kMonthList, 0);
+    if (GetParam() == Refused::ByTab) ShowTab(6);
+    if (GetParam() == Refused::ByClosing) Close();
     PumpMessages();
-    KillTimer(nullptr, timer);
-    EXPECT_EQ(boxes_, 1);
+    EXPECT_EQ(boxes, 1);
     EXPECT_FALSE(page_ || IsWindow(owner_));
     EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
+    EXPECT_EQ(settingsStore.dNumOfDays.value, 12u);
 }
 
-INSTANTIATE_TEST_SUITE_P(ByRowOrTab, RefusalTest, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(Ways, RefusalTest,
+                         testing::Values(Refused::ByRow, Refused::ByTab, Refused::ByClosing));
 } // namespace
