@@ -261,14 +261,11 @@ TEST_F(CalendarOptionsTest, EditsPathAndText) {
     EXPECT_STREQ(settingsStore.MailCustomInboxStr.value.CStr(), L"\\Mail.exe");
     Select(kMailList, 4);
     std::wstring title;
-    {
-        const DialogSteps choose(L"LoadFileWin", {[&title](HWND dialog) {
-                                     title = TextOf(GetParent(GetParent(dialog)));
-                                     SetDlgItemText(dialog, kFileName, L"Own");
-                                     PostMessage(dialog, WM_COMMAND, IDOK, 0);
-                                 }});
-        Tap(window_, kPathBrowse);
-    }
+    TapAndWork(kPathBrowse, L"LoadFileWin", {[&title](HWND dialog) {
+                   title = TextOf(GetParent(GetParent(dialog)));
+                   SetDlgItemText(dialog, kFileName, L"Own");
+                   PostMessage(dialog, WM_COMMAND, IDOK, 0);
+               }});
     EXPECT_EQ(title, L"Custom Mail App.");
     const std::wstring chosen = TextOf(Control(kPath));
     EXPECT_EQ(chosen.substr(chosen.rfind(L'\\')), L"\\Own.exe");

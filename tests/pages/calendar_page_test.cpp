@@ -107,12 +107,12 @@ TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
 // A button of the icons at the right, which the focus is on, is named by its text and adds its
 // flag.
 TEST_F(CalendarPageTest, TheIconsAreNamedByTheirFlags) {
-    struct Strip {
+    using Buttons = std::vector<std::pair<uint32_t, UINT>>; // Flag and text.
+    const struct {
         int id;
         DwordSetting& setting;
-        std::vector<std::pair<uint32_t, UINT>> buttons; // Flag and text.
-    };
-    const Strip strips[] = {
+        Buttons buttons;
+    } strips[] = {
         {kAppointmentRightIcons,
          settingsStore.ClrApptRightIcons,
          {{1, 650}, {2, 651}, {4, 652}, {8, 653}, {16, 654}, {64, 655}, {128, 1211}, {256, 1212}}},
@@ -123,10 +123,10 @@ TEST_F(CalendarPageTest, TheIconsAreNamedByTheirFlags) {
          {&settingsStore.ApptLeftAlignIcon1, &settingsStore.ApptLeftAlignIcon2,
           &settingsStore.TaskLeftAlignIcon1, &settingsStore.TaskLeftAlignIcon2})
         left->Set(0);
-    for (const Strip& strip : strips)
+    for (const auto& strip : strips)
         strip.setting.Set(0);
     OpenAt(4);
-    for (const Strip& strip : strips) {
+    for (const auto& strip : strips) {
         SetFocus(Control(strip.id));
         for (const auto& [flag, text] : strip.buttons) {
             SendMessage(Control(strip.id), WM_TIMER, 1, 0);

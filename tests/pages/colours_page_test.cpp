@@ -188,10 +188,7 @@ TEST_F(ColoursPageTest, LeavesTheColourWhereNothingIsChosen) {
     HWND window = Open();
     Tap(window, kEdit); // Nothing is selected; a picker would hang the test.
     SelectRow(GetDlgItem(window, kColours), 2);
-    {
-        const DialogSteps steps(kPicker, {}); // Cancels.
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kPicker, {});
     EXPECT_FALSE(settingsStore.GeneralFontColor.changed);
     Close();
 }

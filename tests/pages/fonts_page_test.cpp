@@ -139,16 +139,10 @@ TEST_F(FontsPageTest, ListsEachItem) {
 
 TEST_F(FontsPageTest, EditsOnlyTheColourWhileOneFontServesAll) {
     HWND window = OpenItem(3);
-    {
-        const DialogSteps steps(kPicker, {ChooseGreen});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kPicker, {ChooseGreen});
     EXPECT_EQ(settingsStore.FontCalTasksFuture.colour.value, kGreen);
     EXPECT_EQ(settingsStore.FontCalTasksOverdue.colour.value, kNoColour);
-    {
-        const DialogSteps steps(kPicker, {}); // Cancels.
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kPicker, {});
     EXPECT_EQ(settingsStore.FontCalTasksFuture.colour.value, kGreen);
     ClearSelection(GetDlgItem(window, kItems));
     Tap(window, kEdit); // Would hang if it opened anything.
@@ -158,7 +152,7 @@ TEST_F(FontsPageTest, EditsOnlyTheColourWhileOneFontServesAll) {
 TEST_F(FontsPageTest, EditsTheStyleOfOneItem) {
     Store(L"FontGnrlUseAdvncd", 1);
     Store(L"FontCalPastlfHeight", 31);
-    HWND window = OpenItem(static_cast<int>(FontId::FontCalPast));
+    OpenItem(static_cast<int>(FontId::FontCalPast));
     DialogSteps::Step look = [](HWND dialog) {
         EXPECT_EQ(SendDlgItemMessage(dialog, IDC_FONT_SIZE, CB_GETCURSEL, 0, 0), -1);
         EXPECT_EQ(IsDlgButtonChecked(dialog, IDC_FONT_STRIKE_OUT), 1u);
@@ -169,10 +163,7 @@ TEST_F(FontsPageTest, EditsTheStyleOfOneItem) {
         Tap(dialog, IDC_FONT_ITALIC);
         PostMessage(dialog, WM_COMMAND, IDOK, 0);
     };
-    {
-        const DialogSteps steps(kDialog, {look});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kDialog, {look});
     const FontSetting& font = settingsStore.FontCalPast;
     EXPECT_EQ(font.weight.value, 700u);
     EXPECT_EQ(font.italic.value, 1u);
@@ -185,7 +176,7 @@ TEST_F(FontsPageTest, EditsTheStyleOfOneItem) {
 TEST_F(FontsPageTest, CancelKeepsTheStyleButNotTheOldColour) {
     Store(L"FontGnrlUseAdvncd", 1);
     Store(L"FontGenerallfWeight", 400);
-    HWND window = OpenItem(0);
+    OpenItem(0);
     const auto set = [](HWND dialog) {
         Tap(dialog, IDC_FONT_UNDERLINE);
         PostMessage(dialog, WM_COMMAND, IDC_FONT_SET_COLOUR, 0);
@@ -194,17 +185,11 @@ TEST_F(FontsPageTest, CancelKeepsTheStyleButNotTheOldColour) {
         return [button](HWND dialog) { PostMessage(dialog, WM_COMMAND, button, 0); };
     };
     const FontSetting& font = settingsStore.FontGeneral;
-    {
-        const DialogSteps steps(kDialog, {set, ChooseGreen, answer(IDCANCEL)});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kDialog, {set, ChooseGreen, answer(IDCANCEL)});
     EXPECT_EQ(font.colour.value, kGreen);
     EXPECT_EQ(font.underline.value, 0u);
     EXPECT_EQ(font.weight.value, 400u);
-    {
-        const DialogSteps steps(kDialog, {answer(IDOK)});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kDialog, {answer(IDOK)});
     EXPECT_EQ(font.weight.value, 100u) << "only 700 is bold";
     Close();
 }

@@ -196,11 +196,8 @@ TEST_F(NotesPageTest, AddsAFolderOnce) {
 TEST_F(NotesPageTest, TheRootCannotBeAdded) {
     Open();
     const MessageBoxAnswer answer(IDOK);
-    {
-        const DialogSteps steps(L"SelectFolderWin",
-                                {[](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); }});
-        Tap(page_->hwnd, kAdd);
-    }
+    TapAndWork(kAdd, L"SelectFolderWin",
+               {[](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); }});
     EXPECT_EQ(answer.count, 1);
     EXPECT_EQ(RowsOf(List()), L"");
     Close();

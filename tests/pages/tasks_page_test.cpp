@@ -241,27 +241,22 @@ TEST_F(TasksPageTest, ATapThatLosesThePenPressesNothing) {
     Close();
 }
 
-// How many pixels of a band as wide as the page are not white.
-int DrawnPixels(HWND window, int top, int bottom) {
-    RECT client{};
-    GetClientRect(window, &client);
-    const std::vector<COLORREF> pixels = PixelsOf(window, {0, top, client.right, bottom});
-    return static_cast<int>(pixels.size()) -
-           static_cast<int>(std::ranges::count(pixels, RGB(255, 255, 255)));
-}
-
 TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     HWND window = OpenIcons(0, 0, 0);
     RECT strip{};
     GetWindowRect(GetDlgItem(window, kRight), &strip);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&strip), 2);
-    const int bottom = strip.bottom + ScaleY(8 + 42);
-    const auto drawn = [&] { return DrawnPixels(window, bottom - ScaleY(20), bottom); };
+    const LONG bottom = strip.bottom + ScaleY(8 + 42);
+    const auto drawn = [&] { // Pixels that are not white.
+        const RECT sample{0, bottom - ScaleY(20), strip.right, bottom};
+        return std::ranges::count_if(PixelsOf(window, sample),
+                                     [](COLORREF pixel) { return pixel != RGB(255, 255, 255); });
+    };
     UpdateWindow(window);
-    const int plain = drawn();
+    const auto plain = drawn();
     EXPECT_GT(plain, 0);
     TapRight(0);
-    const int oneIcon = drawn();
+    const auto oneIcon = drawn();
     EXPECT_GT(oneIcon, plain);
     ChooseLeft(kLeft1, 2);
     EXPECT_GT(drawn(), oneIcon);
@@ -270,5 +265,4 @@ TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     EXPECT_EQ(drawn(), 0) << "the sample stands on its own tab alone";
     Close();
 }
-
 } // namespace

@@ -17,6 +17,7 @@
 #include "shell/services/application.h"
 #include "shell/services/handles.h"
 #include "shell/services/scaling.h"
+#include "tests/support/dialog_steps.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
 
@@ -67,6 +68,12 @@ class PageFixture : public RegistryFixture {
 
     void ShowTab(int tab) const {
         SendMessage(page_->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+    }
+
+    // Taps a button and works what it opens.
+    void TapAndWork(int button, const wchar_t* dialog, std::vector<DialogSteps::Step> steps) const {
+        const DialogSteps work(dialog, std::move(steps));
+        Tap(page_->hwnd, button);
     }
 
     bool IsEnabled(int id) const { return IsWindowEnabled(GetDlgItem(page_->hwnd, id)); }
