@@ -8,7 +8,6 @@
 #include <string>
 
 #include "files/category_store.h"
-#include "resource_ids.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"

@@ -14,7 +14,6 @@
 #include "shell/services/application.h"
 #include "shell/services/image_strip.h"
 #include "shell/services/resource_strings.h"
-#include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/registry_fixture.h"

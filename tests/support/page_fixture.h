@@ -15,7 +15,6 @@
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
 #include "shell/services/application.h"
-#include "shell/services/handles.h"
 #include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/registry_fixture.h"
