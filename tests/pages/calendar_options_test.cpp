@@ -8,6 +8,7 @@
 #include "shell/services/resource_strings.h"
 #include "tests/pages/calendar_page_fixture.h"
 #include "tests/support/dialog_steps.h"
+#include "tests/support/text_words.h"
 
 namespace {
 constexpr int kDays = 1201;
@@ -16,6 +17,7 @@ constexpr int kDayList = 1231;
 constexpr int kMailList = 1233;
 constexpr int kMiscellaneousList = 1234;
 constexpr int kTip = 1240;
+constexpr int kLabel = 1241;
 constexpr int kPath = 1244;
 constexpr int kPathClear = 1245;
 constexpr int kPathBrowse = 1246;
@@ -34,107 +36,132 @@ WideString Formatted(UINT text, int number) {
 
 using CalendarOptionsTest = CalendarPageFixture;
 
-// `shown` and `chosen` are entries, `stored` and `saved` what the registry has for them.
-struct OptionCase {
-    int list;
-    int row;
-    Number setting;
-    uint32_t stored;
-    uint32_t shown;
-    int chosen;
-    uint32_t saved;
+// Each option by the setting that it edits, if any, and a word with its texts: item, label and tip,
+// then the entries of its list. Where there is a "*", the rest may be anything.
+struct OptionList {
+    int tab;
+    int id;
+    std::vector<Number> settings;
+    const wchar_t* texts;
 };
 
-std::vector<OptionCase> OptionCases() {
-    using Store = SettingsStore;
-    std::vector<OptionCase> cases;
-    const auto box = [&](int list, int row, Number setting) {
-        const uint32_t stored = 1 - (settingsStore.*setting).defaultValue;
-        cases.push_back(
-            {list, row, setting, stored, stored, static_cast<int>(1 - stored), 1 - stored});
-    };
-    const auto combo = [&](int list, int row, Number setting, uint32_t stored, uint32_t chosen) {
-        cases.push_back({list, row, setting, stored, stored, static_cast<int>(chosen), chosen});
-    };
-    box(kTaskList, 0, &Store::IncldTasksInCR);
-    box(kTaskList, 1, &Store::IncldOverDueTsksInCR);
-    box(kTaskList, 2, &Store::IncldFutureTsksInCR);
-    box(kTaskList, 3, &Store::IncldUndatedTsksInCR);
-    combo(kTaskList, 4, &Store::DatesToIncldCmpltdTsksOnClr, 3, 1);
-    box(kTaskList, 5, &Store::IncldPastCmpltdTsksInClndr);
-    combo(kTaskList, 6, &Store::FutureLimitTsksOnClr, 7, 4);
-    combo(kTaskList, 7, &Store::TasksSubsortOnCal, 6, 5);
-    combo(kTaskList, 8, &Store::SkipActiveTsksWeekends, 3, 2);
-    combo(kTaskList, 9, &Store::DueDateTsksDateFrmt, 4, 3);
-    box(kTaskList, 10, &Store::ShowActiveTsksOnCal);
-    box(kTaskList, 11, &Store::PaintTsksBeforeAppts);
-    box(kTaskList, 12, &Store::ConfirmTaskComplete);
-    combo(kDayList, 0, &Store::DayTtlFrmt, 6, 5);
-    combo(kDayList, 1, &Store::dDayBreaker, 2, 1);
-    combo(kDayList, 2, &Store::TimeLines, 1, 0);
-    box(kDayList, 3, &Store::ShowTomorrowTtl);
-    box(kDayList, 4, &Store::CalendarIncldCounters);
-    box(kDayList, 5, &Store::UseSmartFolding);
-    combo(kDayList, 6, &Store::FoldingType, 0, 1);
-    box(kDayList, 7, &Store::FilterFreeApptsFromTL);
-    box(kDayList, 8, &Store::ForceTodayTitleDsply);
-    box(kDayList, 9, &Store::AppendDateToTodayTtl);
-    box(kDayList, 10, &Store::AppendDaysCountTottl);
-    box(kDayList, 11, &Store::AppendWeekNumTottl);
-    combo(kDayList, 12, &Store::TimelinesStart, 18, 9);
-    combo(kDayList, 13, &Store::TimelinesLength, 17, 2);
-    cases.push_back({kDayList, 14, &Store::TimelinesVertZ, 2, 1, 0, 1});
-    cases.push_back({kDayList, 15, &Store::TimelinesHorZ, 2, 1, 0, 1});
-    combo(kMonthList, 0, &Store::OnPopupMonthCalClick, 3, 2);
-    combo(kMonthList, 1, &Store::MonthlyPopupCalDateFrmt, 1, 0);
-    combo(kMonthList, 2, &Store::MonthlyStartDay, 5, 1);
-    combo(kMonthList, 3, &Store::FirstWorkDay, 4, 2);
-    box(kMonthList, 4, &Store::MonthlyPopWithWeekNum);
-    combo(kMonthList, 5, &Store::MonthlyPopTimelines, 0, 1);
-    box(kMonthList, 6, &Store::MonthlyPopCatIcons);
-    cases.push_back({kMonthList, 7, &Store::MonthlyPopIconsSize, static_cast<uint32_t>(Scale(9)), 3,
-                     8, static_cast<uint32_t>(Scale(14))});
-    combo(kMonthList, 8, &Store::PopupClrDPadNavigation, 1, 0);
-    box(kMonthList, 9, &Store::PinnedMonthlyClr);
-    box(kMailList, 0, &Store::IncludeMainOnCal);
-    box(kMailList, 1, &Store::MailHideWhenZeroMsgs);
-    combo(kMailList, 2, &Store::MailTitleFormat, 3, 1);
-    combo(kMailList, 3, &Store::MailSoftwareToUse, 1, 0);
-    box(kMailList, 5, &Store::HideMailTtlUnderToday);
-    box(kMailList, 6, &Store::ShowMailCounterOnTtl);
-    box(kMiscellaneousList, 0, &Store::Force2DigitsTImeFrmt);
-    box(kMiscellaneousList, 1, &Store::SkinTodayWhenCollpsAll);
-    combo(kMiscellaneousList, 2, &Store::HumanTime, 8, 5);
-    box(kMiscellaneousList, 3, &Store::HideOverDueTsksDayTtl);
-    box(kMiscellaneousList, 4, &Store::HideUndatedTsksDayTtl);
-    return cases;
+using Store = SettingsStore;
+const OptionList kLists[] = {
+    {2,
+     kTaskList,
+     {&Store::IncldTasksInCR, &Store::IncldOverDueTsksInCR, &Store::IncldFutureTsksInCR,
+      &Store::IncldUndatedTsksInCR, &Store::DatesToIncldCmpltdTsksOnClr,
+      &Store::IncldPastCmpltdTsksInClndr, &Store::FutureLimitTsksOnClr, &Store::TasksSubsortOnCal,
+      &Store::SkipActiveTsksWeekends, &Store::DueDateTsksDateFrmt, &Store::ShowActiveTsksOnCal,
+      &Store::PaintTsksBeforeAppts, &Store::ConfirmTaskComplete},
+     L"663:738:739 664:740:741 665:742:743 666:744:745 667:1225:1226|1227|1228|1229|1230| "
+     L"668:748:749 1214:1231:1232|1077|1078|1079|1080|1081|1082|1083|1084| "
+     L"669:750:751|752|753|754|755|756|757|758| 670:759:760|761|762|763|764| 671:765:766|* "
+     L"672:767:768 673:769:770 674:771:772"},
+    {3,
+     kDayList,
+     {&Store::DayTtlFrmt, &Store::dDayBreaker, &Store::TimeLines, &Store::ShowTomorrowTtl,
+      &Store::CalendarIncldCounters, &Store::UseSmartFolding, &Store::FoldingType,
+      &Store::FilterFreeApptsFromTL, &Store::ForceTodayTitleDsply, &Store::AppendDateToTodayTtl,
+      &Store::AppendDaysCountTottl, &Store::AppendWeekNumTottl, &Store::TimelinesStart,
+      &Store::TimelinesLength, &Store::TimelinesVertZ, &Store::TimelinesHorZ},
+     L"675:773:774|* 676:775:776|109|110|111|1233| 677:777:778|779|780|781| 678:782:783 "
+     L"679:784:785 680:786:787 681:788:789|790|791|792| 682:797:798 685:801:802 686:803:804 "
+     L"687:805:806 688:807:808 1215:799:800|* 1216:1234:1235|* 1217:1189:1190|* 1218:1191:1192|*"},
+    {5,
+     kMonthList,
+     {&Store::OnPopupMonthCalClick, &Store::MonthlyPopupCalDateFrmt, &Store::MonthlyStartDay,
+      &Store::FirstWorkDay, &Store::MonthlyPopWithWeekNum, &Store::MonthlyPopTimelines,
+      &Store::MonthlyPopCatIcons, &Store::MonthlyPopIconsSize, &Store::PopupClrDPadNavigation,
+      &Store::PinnedMonthlyClr},
+     L"689:809:810|811|812|813|814| 690:815:816|* 691:1193:1194|* 1219:1195:1196|* 692:819:820 "
+     L"1220:1197:1198|1207|1208|1209| 1221:1199:1200 1222:1201:1202|* "
+     L"1455:1455:1456|1452|1453|1454| 1223:1203:*"},
+    {6,
+     kMailList,
+     {&Store::IncludeMainOnCal, &Store::MailHideWhenZeroMsgs, &Store::MailTitleFormat,
+      &Store::MailSoftwareToUse, nullptr, &Store::HideMailTtlUnderToday,
+      &Store::ShowMailCounterOnTtl},
+     L"706:821:822 707:823:824 708:825:826|827|828|829|830| 709:831:832|833|834| 710::835 "
+     L"711:836:837 712:838:839"},
+    {8,
+     kMiscellaneousList,
+     {&Store::Force2DigitsTImeFrmt, &Store::SkinTodayWhenCollpsAll, &Store::HumanTime,
+      &Store::HideOverDueTsksDayTtl, &Store::HideUndatedTsksDayTtl, nullptr, nullptr},
+     L"693:840:841 694:845:846 696:849:850|* 697:851:852 698:853:854 699::855 1224::"},
+};
+
+// What is stored for an entry.
+uint32_t ValueOf(Number setting, uint32_t entry) {
+    if (setting == &Store::TimelinesVertZ || setting == &Store::TimelinesHorZ) return entry + 1;
+    if (setting == &Store::MonthlyPopIconsSize)
+        return static_cast<uint32_t>(Scale(6 + static_cast<int>(entry)));
+    return entry;
 }
 
-int TabOfList(int list) {
-    constexpr int kTabs[] = {2, 3, 5, 6, 8};
-    return kTabs[list - kTaskList];
+void SetAll(uint32_t value) {
+    for (const OptionList& list : kLists) {
+        for (const Number setting : list.settings) {
+            if (setting) (settingsStore.*setting).Set(value);
+        }
+    }
 }
 
 TEST_F(CalendarOptionsTest, EveryOptionShowsAndStoresItsOwnSetting) {
+    constexpr uint32_t kUntouched = 99;
     settingsStore.dHeightLimit.Set(2000); // Enough for the pinned month.
-    const std::vector<OptionCase> cases = OptionCases();
     OpenAt(0);
-    for (const OptionCase& option : cases) {
-        for (const OptionCase& other : cases)
-            (settingsStore.*other.setting)
-                .Set(other.setting == option.setting ? option.stored : 99);
-        ShowTab(TabOfList(option.list));
-        Select(option.list, option.row);
-        EXPECT_TRUE(IsShown(kTip)) << option.list << " " << option.row;
-        EXPECT_NE(IsShown(kBox), IsShown(kCombo)) << option.list << " " << option.row;
-        EXPECT_EQ(Shown(), option.shown) << option.list << " " << option.row;
-        Change(option.chosen);
-        ShowTab(0);
-        for (const OptionCase& other : cases) {
-            EXPECT_EQ((settingsStore.*other.setting).value,
-                      other.setting == option.setting ? option.saved : 99U)
-                << other.list << " " << other.row << " after " << option.list << " " << option.row;
+    for (const OptionList& list : kLists) {
+        for (size_t row = 0; row < list.settings.size(); ++row) {
+            const Number setting = list.settings[row];
+            if (!setting) continue;
+            const auto select = [&] {
+                ShowTab(list.tab);
+                Select(list.id, static_cast<int>(row));
+            };
+            select();
+            const auto last =
+                IsShown(kBox) ? 1 : SendMessage(Control(kCombo), CB_GETCOUNT, 0, 0) - 1;
+            ShowTab(0);
+            SetAll(kUntouched);
+            (settingsStore.*setting).Set(ValueOf(setting, static_cast<uint32_t>(last)));
+            select();
+            EXPECT_TRUE(IsShown(kTip)) << list.id << " " << row;
+            EXPECT_NE(IsShown(kBox), IsShown(kCombo)) << list.id << " " << row;
+            EXPECT_EQ(Shown(), static_cast<uint32_t>(last)) << list.id << " " << row;
+            Change(0);
+            ShowTab(0);
+            EXPECT_EQ((settingsStore.*setting).value, ValueOf(setting, 0)) << list.id << " " << row;
+            (settingsStore.*setting).Set(kUntouched);
+            for (const OptionList& other : kLists) {
+                for (const Number otherSetting : other.settings)
+                    EXPECT_TRUE(!otherSetting || (settingsStore.*otherSetting).value == kUntouched)
+                        << "touched by " << list.id << " " << row;
+            }
         }
+    }
+}
+
+TEST_F(CalendarOptionsTest, TextsAreThoseOfTheirNumbers) {
+    OpenAt(0);
+    EXPECT_EQ(RowsOf(Control(kTitles)), Expand(L"700|701|702|703|704|705"));
+    for (const OptionList& list : kLists) {
+        ShowTab(list.tab);
+        std::wstring items;
+        int row = 0;
+        for (const std::wstring& word : Words(list.texts)) {
+            const size_t item = word.find(L':');
+            items += (row ? L"|" : L"") + Expand(word.substr(0, item));
+            Select(list.id, row++);
+            std::wstring text = L":";
+            if (IsShown(kLabel)) text += TextOf(Control(kLabel));
+            if (IsShown(kBox)) text += TextOf(Control(kBox));
+            text += L":" + (IsShown(kTip) ? TextOf(Control(kTip)) : L"");
+            if (IsShown(kCombo)) text += L"|" + EntriesOf(Control(kCombo)) + L"|";
+            const std::wstring expected = Expand(word.substr(item));
+            EXPECT_EQ(text.substr(0, expected.find(L'*')), expected.substr(0, expected.find(L'*')));
+        }
+        EXPECT_EQ(RowsOf(Control(list.id)), items);
     }
 }
 
@@ -234,14 +261,11 @@ TEST_F(CalendarOptionsTest, EditsPathAndText) {
     EXPECT_STREQ(settingsStore.MailCustomInboxStr.value.CStr(), L"\\Mail.exe");
     Select(kMailList, 4);
     std::wstring title;
-    {
-        const DialogSteps choose(L"LoadFileWin", {[&title](HWND dialog) {
-                                     title = TextOf(GetParent(GetParent(dialog)));
-                                     SetDlgItemText(dialog, kFileName, L"Own");
-                                     PostMessage(dialog, WM_COMMAND, IDOK, 0);
-                                 }});
-        Tap(window_, kPathBrowse);
-    }
+    TapAndWork(kPathBrowse, L"LoadFileWin", {[&title](HWND dialog) {
+                   title = TextOf(GetParent(GetParent(dialog)));
+                   SetDlgItemText(dialog, kFileName, L"Own");
+                   PostMessage(dialog, WM_COMMAND, IDOK, 0);
+               }});
     EXPECT_EQ(title, L"Custom Mail App.");
     const std::wstring chosen = TextOf(Control(kPath));
     EXPECT_EQ(chosen.substr(chosen.rfind(L'\\')), L"\\Own.exe");
@@ -332,68 +356,39 @@ TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
     EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 1u);
 }
 
-// Another program may close the main window while a page that is being closed has the box up.
-TEST_F(CalendarOptionsTest, SurvivesTheEndOfTheMainWindowBehindTheRefusal) {
+// Another program may close the main window, and the page with it, while the refusal is up.
+enum class Refused { ByRow, ByTab, ByClosing };
+class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterface<Refused> {};
+
+TEST_P(RefusalTest, SurvivesTheEndOfAllWindowsBehindIt) {
     settingsStore.dHeightLimit.Set(0);
-    OpenAt(8);
+    OpenAt(0);
     Choose(window_, kDays, 11);
-    Select(kMiscellaneousList, 6);
-    Select(kTitles, 0);
-    Tap(window_, kDown);
     ShowTab(5);
     Select(kMonthList, 9);
     Change(1);
-    static HWND mainWindow;
-    mainWindow = owner_;
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        if (!FindWindow(L"#32770", nullptr)) return;
-        EXPECT_FALSE(IsWindowEnabled(mainWindow));
-        EXPECT_EQ(settingsStore.dNumOfDays.value, 12u) << "stored before the user is told";
-        EXPECT_EQ(TitleOrder(), "102345");
-        KillTimer(nullptr, timer);
-        DestroyWindow(mainWindow);
-    });
-    Close();
-    EXPECT_FALSE(IsWindow(owner_));
-    EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
-    EXPECT_EQ(settingsStore.dNumOfDays.value, 12u);
-    EXPECT_EQ(TitleOrder(), "102345");
-}
-
-// The same while the page itself has it up: the page and its lists go as well.
-class RefusalTest : public CalendarOptionsTest, public testing::WithParamInterface<bool> {
-  protected:
-    static inline RefusalTest* current_;
-    static inline int boxes_;
-
-  public:
-    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-        if (!FindWindow(L"#32770", nullptr)) return;
-        ++boxes_;
-        if (!current_->page_) return;
-        current_->Close();
-        DestroyWindow(current_->owner_);
-    }
-};
-
-TEST_P(RefusalTest, SurvivesTheEndOfThePageBehindIt) {
-    settingsStore.dHeightLimit.Set(0);
-    OpenAt(5);
-    Select(kMonthList, 9);
-    Change(1);
-    current_ = this;
-    boxes_ = 0;
-    const UINT_PTR timer = SetTimer(nullptr, 0, 20, OnTimer);
-    if (GetParam())
-        ShowTab(6);
-    else
-        Select(kMonthList, 0);
+    int boxes = 0;
+    const auto end = [&](HWND) {
+        ++boxes;
+        if (GetParam() == Refused::ByClosing) {
+            EXPECT_FALSE(IsWindowEnabled(owner_));
+            EXPECT_EQ(settingsStore.dNumOfDays.value, 12u) << "stored before the user is told";
+        } else {
+            Close();
+        }
+        DestroyWindow(owner_);
+    };
+    const DialogSteps steps(L"#32770", {end, end});
+    if (GetParam() == Refused::ByRow) Select(kMonthList, 0);
+    if (GetParam() == Refused::ByTab) ShowTab(6);
+    if (GetParam() == Refused::ByClosing) Close();
     PumpMessages();
-    KillTimer(nullptr, timer);
-    EXPECT_EQ(boxes_, 1);
+    EXPECT_EQ(boxes, 1);
     EXPECT_FALSE(page_ || IsWindow(owner_));
     EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
+    EXPECT_EQ(settingsStore.dNumOfDays.value, 12u);
 }
 
-INSTANTIATE_TEST_SUITE_P(ByRowOrTab, RefusalTest, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(Ways, RefusalTest,
+                         testing::Values(Refused::ByRow, Refused::ByTab, Refused::ByClosing));
 } // namespace

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/pages/calendar_page_fixture.h"
+#include "ui/button_strip.h"
 #include "ui/key_navigation.h"
 
 namespace {
@@ -18,49 +19,6 @@ constexpr int kAppointmentRightIcons = 1265;
 constexpr int kDisplayFormat = 1272;
 
 using CalendarPageTest = CalendarPageFixture;
-
-struct FormCase {
-    int id;
-    Number setting;
-    bool isCombo;
-    uint32_t stored;
-    int chosen;
-};
-constexpr FormCase kFormCases[] = {
-    {1203, &SettingsStore::FirstWeekInYear, true, 3, 2},
-    {1205, &SettingsStore::ClrTextColor, true, 2, 1},
-    {1206, &SettingsStore::HideEmptyGroups, false, 0, 1},
-    {1207, &SettingsStore::HideEmptyGroupsItem, false, 1, 0},
-    {1208, &SettingsStore::SEventsOnClr, false, 1, 0},
-    {1209, &SettingsStore::ClrSortTsksWithAppts, false, 1, 0},
-    {1211, &SettingsStore::dAppoPassedToday, true, 1, 0},
-    {1213, &SettingsStore::LeadingRects, true, 2, 0},
-    {1215, &SettingsStore::Conflicting, true, 0, 2},
-    {1216, &SettingsStore::IncludeYearlyCounters, false, 0, 1},
-    {1217, &SettingsStore::HideAlldayEventIcon, false, 1, 0},
-    {1220, &SettingsStore::WeatehrLayout, true, 3, 2},
-    {1222, &SettingsStore::WeatehrOnClick, true, 0, 1},
-};
-
-// One control at a time, so that two that were swapped show.
-TEST_F(CalendarPageTest, EveryFormControlShowsAndSavesItsOwnSetting) {
-    for (const FormCase& changed : kFormCases) {
-        for (const FormCase& other : kFormCases)
-            (settingsStore.*other.setting).Set(other.stored);
-        OpenAt(0);
-        const auto message = static_cast<UINT>(changed.isCombo ? CB_GETCURSEL : BM_GETCHECK);
-        EXPECT_EQ(SendMessage(Control(changed.id), message, 0, 0),
-                  static_cast<LRESULT>(changed.stored));
-        SendMessage(Control(changed.id), changed.isCombo ? CB_SETCURSEL : BM_SETCHECK,
-                    static_cast<WPARAM>(changed.chosen), 0);
-        Close();
-        for (const FormCase& other : kFormCases) {
-            EXPECT_EQ((settingsStore.*other.setting).value,
-                      other.id == changed.id ? static_cast<uint32_t>(changed.chosen) : other.stored)
-                << other.id << " after " << changed.id;
-        }
-    }
-}
 
 TEST_F(CalendarPageTest, ShowsNumbersThatItDoesNotOffer) {
     settingsStore.dNumOfDays.Set(45);
@@ -122,50 +80,63 @@ TEST_F(CalendarPageTest, OffersTheWeatherWhereItsProductIs) {
 }
 
 TEST_F(CalendarPageTest, AnIconShowsOnOneSideOnly) {
-    settingsStore.ClrApptRightIcons.Set(4 + 16);
-    settingsStore.ApptLeftAlignIcon2.Set(8);
-    OpenAt(4);
-    const auto choose = [this](int code, uint32_t flag) {
-        SendMessage(window_, kMessageToolbarMenuSelect, flag, code);
+    struct Side {
+        int code;
+        DwordSetting& left;
+        DwordSetting& right;
     };
-    const auto tapRight = [this](int button) {
-        RECT strip{};
-        GetClientRect(Control(kAppointmentRightIcons), &strip);
-        const LPARAM place = MAKELPARAM(strip.right * (2 * button + 1) / 16, strip.bottom / 2);
-        SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONDOWN, 0, place);
-        SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONUP, 0, place);
-        return settingsStore.ClrApptRightIcons.value;
-    };
-    choose(1, 4);
-    EXPECT_EQ(settingsStore.ApptLeftAlignIcon1.value, 4u);
-    EXPECT_EQ(settingsStore.ClrApptRightIcons.value, 16u);
-    EXPECT_EQ(tapRight(2), 16u) << "4 is at the left";
-    EXPECT_EQ(tapRight(3), 16u) << "8 has been there from the start";
-    EXPECT_EQ(tapRight(0), 17u);
-    choose(1, 8);
-    EXPECT_EQ(tapRight(2), 21u) << "4 is offered again";
-    choose(1, 0);
-    EXPECT_EQ(tapRight(3), 21u) << "8 is still the other one's";
-    choose(2, 0);
-    EXPECT_EQ(tapRight(3), 29u);
-    EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u) << "tasks have icons of their own";
-    choose(3, 32);
-    EXPECT_EQ(settingsStore.TaskLeftAlignIcon1.value, 32u);
-    EXPECT_EQ(settingsStore.ClrTaskRightIcons.value, 383u - 32);
-    choose(4, 256);
-    EXPECT_EQ(settingsStore.TaskLeftAlignIcon2.value, 256u);
+    const Side sides[] = {{1, settingsStore.ApptLeftAlignIcon1, settingsStore.ClrApptRightIcons},
+                          {2, settingsStore.ApptLeftAlignIcon2, settingsStore.ClrApptRightIcons},
+                          {3, settingsStore.TaskLeftAlignIcon1, settingsStore.ClrTaskRightIcons},
+                          {4, settingsStore.TaskLeftAlignIcon2, settingsStore.ClrTaskRightIcons}};
+    for (const Side& chosen : sides) {
+        for (const Side& side : sides) {
+            side.left.Set(0);
+            side.right.Set(4 + 16);
+        }
+        OpenAt(4);
+        SendMessage(window_, kMessageToolbarMenuSelect, 4, chosen.code);
+        for (const Side& side : sides) {
+            EXPECT_EQ(side.left.value, side.code == chosen.code ? 4u : 0u) << chosen.code;
+            EXPECT_EQ(side.right.value, &side.right == &chosen.right ? 16u : 20u) << chosen.code;
+        }
+        Close();
+    }
 }
 
-// A number that is no icon's may hold the bit of one.
-TEST_F(CalendarPageTest, ANumberThatIsNoIconOffersNone) {
-    settingsStore.ApptLeftAlignIcon1.Set(1 + 2);
-    settingsStore.ApptLeftAlignIcon2.Set(1);
-    settingsStore.ClrApptRightIcons.Set(16);
+// A button of the icons at the right, which the focus is on, is named by its text and adds its
+// flag.
+TEST_F(CalendarPageTest, TheIconsAreNamedByTheirFlags) {
+    using Buttons = std::vector<std::pair<uint32_t, UINT>>; // Flag and text.
+    const struct {
+        int id;
+        DwordSetting& setting;
+        Buttons buttons;
+    } strips[] = {
+        {kAppointmentRightIcons,
+         settingsStore.ClrApptRightIcons,
+         {{1, 650}, {2, 651}, {4, 652}, {8, 653}, {16, 654}, {64, 655}, {128, 1211}, {256, 1212}}},
+        {1271,
+         settingsStore.ClrTaskRightIcons,
+         {{1, 650}, {2, 651}, {4, 652}, {8, 653}, {16, 654}, {32, 656}, {64, 655}, {256, 1212}}}};
+    for (DwordSetting* left :
+         {&settingsStore.ApptLeftAlignIcon1, &settingsStore.ApptLeftAlignIcon2,
+          &settingsStore.TaskLeftAlignIcon1, &settingsStore.TaskLeftAlignIcon2})
+        left->Set(0);
+    for (const auto& strip : strips)
+        strip.setting.Set(0);
     OpenAt(4);
-    SendMessage(window_, kMessageToolbarMenuSelect, 4, 1);
-    SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONDOWN, 0, MAKELPARAM(2, 2));
-    SendMessage(Control(kAppointmentRightIcons), WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
-    EXPECT_EQ(settingsStore.ClrApptRightIcons.value, 16u) << "1 is at the left";
+    for (const auto& strip : strips) {
+        SetFocus(Control(strip.id));
+        for (const auto& [flag, text] : strip.buttons) {
+            SendMessage(Control(strip.id), WM_TIMER, 1, 0);
+            EXPECT_EQ(TextOf(FindWindow(L"ToolTipWindow", nullptr)), Text(text));
+            const uint32_t before = strip.setting.value;
+            SendMessage(Control(strip.id), BM_CLICK, 0, 0);
+            EXPECT_EQ(strip.setting.value - before, flag);
+            SendMessage(Control(strip.id), kMessageStepButton, TRUE, 0);
+        }
+    }
 }
 
 TEST_F(CalendarPageTest, StepsThroughTheDisplayFormats) {

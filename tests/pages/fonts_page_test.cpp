@@ -11,7 +11,7 @@
 #include "shell/services/resource_strings.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/page_fixture.h"
-#include "ui/key_navigation.h"
+#include "tests/support/text_words.h"
 #include "ui/list_items.h"
 
 namespace {
@@ -129,50 +129,20 @@ TEST_F(FontsPageTest, FontsOfSingleItemsTakeThePlaceOfTheSizes) {
     Close();
 }
 
-TEST_F(FontsPageTest, NamesAndDescribesEachItem) {
-    constexpr struct {
-        UINT label;
-        UINT description;
-    } kTexts[] = {
-        {934, 959},   {935, 960},   {936, 961},   {937, 962},   {938, 963},   {939, 964},
-        {940, 965},   {941, 966},   {942, 967},   {943, 968},   {944, 969},   {945, 970},
-        {946, 971},   {947, 972},   {948, 973},   {949, 974},   {950, 975},   {951, 976},
-        {952, 977},   {953, 978},   {1242, 1242}, {1243, 1243}, {1438, 1438}, {1439, 1439},
-        {1244, 1244}, {1245, 1245}, {1246, 1246}, {954, 979},   {955, 980},   {956, 981},
-        {957, 982},   {958, 983},   {1363, 1364},
-    };
-    HWND window = OpenItem(0);
-    HWND list = GetDlgItem(window, kItems);
-    RECT client{};
-    GetClientRect(window, &client);
-    const RECT header{0, ScaleY(8), client.right, ScaleY(30)};
-    std::wstring labels;
-    int row = 0;
-    for (const auto& texts : kTexts) {
-        labels += (row ? L"|" : L"") + Text(texts.label);
-        ::SelectRow(list, row);
-        EXPECT_TRUE(ShowsText(header, Text(985) + Text(texts.description),
-                              DT_CENTER | DT_SINGLELINE | DT_NOPREFIX))
-            << row;
-        ++row;
-    }
-    EXPECT_EQ(RowsOf(list), labels);
+TEST_F(FontsPageTest, ListsEachItem) {
+    HWND list = GetDlgItem(OpenItem(0), kItems);
+    EXPECT_EQ(RowsOf(list),
+              Expand(L"934|935|936|937|938|939|940|941|942|943|944|945|946|947|948|949|950|951|952|"
+                     L"953|1242|1243|1438|1439|1244|1245|1246|954|955|956|957|958|1363"));
     Close();
 }
 
 TEST_F(FontsPageTest, EditsOnlyTheColourWhileOneFontServesAll) {
     HWND window = OpenItem(3);
-    EXPECT_EQ(RowCount(GetDlgItem(window, kItems)), 33);
-    {
-        const DialogSteps steps(kPicker, {ChooseGreen});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kPicker, {ChooseGreen});
     EXPECT_EQ(settingsStore.FontCalTasksFuture.colour.value, kGreen);
     EXPECT_EQ(settingsStore.FontCalTasksOverdue.colour.value, kNoColour);
-    {
-        const DialogSteps steps(kPicker, {}); // Cancels.
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kPicker, {});
     EXPECT_EQ(settingsStore.FontCalTasksFuture.colour.value, kGreen);
     ClearSelection(GetDlgItem(window, kItems));
     Tap(window, kEdit); // Would hang if it opened anything.
@@ -182,27 +152,18 @@ TEST_F(FontsPageTest, EditsOnlyTheColourWhileOneFontServesAll) {
 TEST_F(FontsPageTest, EditsTheStyleOfOneItem) {
     Store(L"FontGnrlUseAdvncd", 1);
     Store(L"FontCalPastlfHeight", 31);
-    HWND window = OpenItem(static_cast<int>(FontId::FontCalPast));
+    OpenItem(static_cast<int>(FontId::FontCalPast));
     DialogSteps::Step look = [](HWND dialog) {
         EXPECT_EQ(SendDlgItemMessage(dialog, IDC_FONT_SIZE, CB_GETCURSEL, 0, 0), -1);
         EXPECT_EQ(IsDlgButtonChecked(dialog, IDC_FONT_STRIKE_OUT), 1u);
         EXPECT_EQ(IsDlgButtonChecked(dialog, IDC_FONT_BOLD), 0u);
         EXPECT_NE(SHFindMenuBar(dialog), nullptr);
-        for (const int id : {IDC_FONT_SIZE, IDC_FONT_BOLD, IDC_FONT_ITALIC, IDC_FONT_UNDERLINE,
-                             IDC_FONT_STRIKE_OUT, IDC_FONT_SET_COLOUR}) {
-            EXPECT_EQ(GetFocus(), GetDlgItem(dialog, id)) << "reached by the Down key";
-            const MSG down{GetFocus(), WM_KEYDOWN, VK_DOWN, 0, 0, {}};
-            EXPECT_TRUE(TranslateNavigationKey(dialog, down));
-        }
         Tap(dialog, IDC_FONT_STRIKE_OUT);
         Tap(dialog, IDC_FONT_BOLD);
         Tap(dialog, IDC_FONT_ITALIC);
         PostMessage(dialog, WM_COMMAND, IDOK, 0);
     };
-    {
-        const DialogSteps steps(kDialog, {look});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kDialog, {look});
     const FontSetting& font = settingsStore.FontCalPast;
     EXPECT_EQ(font.weight.value, 700u);
     EXPECT_EQ(font.italic.value, 1u);
@@ -215,7 +176,7 @@ TEST_F(FontsPageTest, EditsTheStyleOfOneItem) {
 TEST_F(FontsPageTest, CancelKeepsTheStyleButNotTheOldColour) {
     Store(L"FontGnrlUseAdvncd", 1);
     Store(L"FontGenerallfWeight", 400);
-    HWND window = OpenItem(0);
+    OpenItem(0);
     const auto set = [](HWND dialog) {
         Tap(dialog, IDC_FONT_UNDERLINE);
         PostMessage(dialog, WM_COMMAND, IDC_FONT_SET_COLOUR, 0);
@@ -224,17 +185,11 @@ TEST_F(FontsPageTest, CancelKeepsTheStyleButNotTheOldColour) {
         return [button](HWND dialog) { PostMessage(dialog, WM_COMMAND, button, 0); };
     };
     const FontSetting& font = settingsStore.FontGeneral;
-    {
-        const DialogSteps steps(kDialog, {set, ChooseGreen, answer(IDCANCEL)});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kDialog, {set, ChooseGreen, answer(IDCANCEL)});
     EXPECT_EQ(font.colour.value, kGreen);
     EXPECT_EQ(font.underline.value, 0u);
     EXPECT_EQ(font.weight.value, 400u);
-    {
-        const DialogSteps steps(kDialog, {answer(IDOK)});
-        Tap(window, kEdit);
-    }
+    TapAndWork(kEdit, kDialog, {answer(IDOK)});
     EXPECT_EQ(font.weight.value, 100u) << "only 700 is bold";
     Close();
 }

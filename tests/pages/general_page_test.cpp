@@ -2,51 +2,40 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 #include "platform/include/stand_in.h"
+#include "tests/support/dialog_steps.h"
+#include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
 
 namespace {
-constexpr wchar_t kProgramFiles[] = L"\\GeneralPageTest";
-constexpr wchar_t kLanguageFolder[] = L"\\GeneralPageTest\\Teskel\\Orvane\\LangRes";
-constexpr wchar_t kInstalled[] = L"\\Program Files\\Teskel\\Orvane";
-
-std::wstring InLanguageFolder(const wchar_t* name) {
-    return std::wstring(kLanguageFolder) + L"\\" + name;
-}
-
-void CopyInstalled(const wchar_t* from, const wchar_t* to) {
-    ASSERT_TRUE(
-        CopyFile((std::wstring(kInstalled) + from).c_str(), InLanguageFolder(to).c_str(), FALSE))
-        << from;
-}
-
-// The page with its own language folder.
 class GeneralPageTest : public PageFixture {
   protected:
     GeneralPageTest() : PageFixture(0) {}
 
     void SetUp() override {
         PageFixture::SetUp();
-        CreateDirectory(kProgramFiles, nullptr);
-        CreateDirectory(L"\\GeneralPageTest\\Teskel", nullptr);
-        CreateDirectory(L"\\GeneralPageTest\\Teskel\\Orvane", nullptr);
-        CreateDirectory(kLanguageFolder, nullptr);
-        SetText(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Orvane", L"ProgramFiles",
-                kProgramFiles);
+        folder_.emplace();
+        folder_->Write(L"LangRes\\readme.txt", "");
     }
-
     void TearDown() override {
         PageFixture::TearDown();
-        for (const wchar_t* name : {L"Aaa.dll", L"Bbb.dll", L"Ccc.dll"})
-            DeleteFile(InLanguageFolder(name).c_str());
+        folder_.reset();
         StandInSetOsVersion(0, 0);
     }
-};
 
-std::wstring dialogTitle;
-std::unique_ptr<SettingsPage>* openPage;
+    [[nodiscard]] std::wstring InLanguageFolder(const wchar_t* name) const {
+        return folder_->PathOf(std::wstring(L"LangRes\\") + name);
+    }
+    void CopyInstalled(const wchar_t* from, const wchar_t* to) const {
+        const std::wstring installed = std::wstring(L"\\Program Files\\Teskel\\Orvane") + from;
+        ASSERT_TRUE(CopyFile(installed.c_str(), InLanguageFolder(to).c_str(), FALSE)) << from;
+    }
+
+    std::optional<InstallFolder> folder_;
+};
 
 constexpr wchar_t kRoot[] = L"Software\\Teskel\\Orvane";
 
@@ -77,77 +66,6 @@ TEST_F(GeneralPageTest, ChangesReachTheStoreAndDefaultsLeaveTheRegistry) {
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kRoot, L"dHeightLimitLandscape")) << "8 is below 60";
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kRoot, L"SkinPath"), L"\\My Documents\\Skin");
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kRoot, L"LoadingDelay"), 5u);
-}
-
-// Every number of the page, each by the control that edits it: two that were swapped would show.
-TEST_F(GeneralPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        bool isCombo;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    const Row rows[] = {
-        {1201, L"OnClick", true, 1, 2},
-        {1203, L"OnDoubleClick", true, 2, 1},
-        {1217, L"EnableSoundEffect", false, 0, 1},
-        {1218, L"GoofyMode", false, 1, 0},
-        {1219, L"IndentItems", false, 1, 0},
-        {1221, L"FilterTtlAlign", true, 2, 1},
-        {1222, L"RemoveTabsBar", false, 1, 0},
-        {1223, L"RemoveSettingsButton", false, 1, 0},
-        {1224, L"RemoveSeparatingLine", false, 0, 1},
-        {1225, L"DPadEnabled", false, 0, 1},
-        {1227, L"DPadMode", true, 1, 0},
-        {1229, L"DPadCompleteAction", true, 0, 1},
-        {1231, L"DPadScrollingAction", true, 2, 1},
-        {1232, L"DPadDoubleClickTabSwitching", false, 1, 0},
-        {1233, L"ExclusiveDPadNavig", false, 1, 0},
-        {1234, L"UseDoubleClickScroll", false, 0, 1},
-        {1235, L"UseFullScrollings", false, 0, 1},
-        {1238, L"RemoveHighlight", false, 1, 0},
-        {1240, L"LoadingDelay", true, 3, 4},
-    };
-    for (const Row& changed : rows) {
-        for (const Row& row : rows)
-            SetNumber(HKEY_CURRENT_USER, kRoot, row.name, row.stored);
-        HWND window = Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(
-                SendDlgItemMessage(window, row.id, row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
-                static_cast<LRESULT>(row.stored))
-                << row.id;
-        }
-        if (changed.isCombo)
-            Choose(window, changed.id, static_cast<int>(changed.chosen));
-        else
-            SendDlgItemMessage(window, changed.id, BM_SETCHECK, changed.chosen, 0);
-        Close();
-        settingsStore.Save();
-        settingsStore.Load(application.languageLibrary);
-        Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(SendDlgItemMessage(page_->hwnd, row.id,
-                                         row.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0),
-                      static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
-}
-
-TEST_F(GeneralPageTest, ShowsOneTabAtATime) {
-    HWND window = Open();
-    const int oneOfEachTab[] = {1206, 1217, 1222, 1225, 1234};
-    for (int tab = 0; tab < 5; ++tab) {
-        ShowTab(tab);
-        for (int other = 0; other < 5; ++other) {
-            EXPECT_EQ(IsWindowVisible(GetDlgItem(window, oneOfEachTab[other])), tab == other)
-                << tab;
-        }
-    }
-    Close();
 }
 
 TEST_F(GeneralPageTest, OffersHeightsAndKeepsOthers) {
@@ -201,14 +119,6 @@ TEST_F(GeneralPageTest, SavesDisabledHeightsAsShown) {
     EXPECT_TRUE(settingsStore.dHeightLimit.changed);
 }
 
-TEST_F(GeneralPageTest, ShowsNothingForAnIndexOutOfRange) {
-    SetNumber(HKEY_CURRENT_USER, kRoot, L"DPadCompleteAction", 9);
-    HWND window = Open();
-    EXPECT_EQ(SendDlgItemMessage(window, 1229, CB_GETCURSEL, 0, 0), -1);
-    Close();
-    EXPECT_EQ(settingsStore.DPadCompleteAction.value, 0xFFFFFFFFu);
-}
-
 TEST_F(GeneralPageTest, HasWhatThePlatformOffers) {
     struct Version {
         DWORD major;
@@ -257,34 +167,25 @@ TEST_F(GeneralPageTest, KeepsTheLanguageWhenThereIsNone) {
     SetText(HKEY_CURRENT_USER, kRoot, L"SelectedLangResFile", L"\\Lost.dll");
     Open();
     Close();
-    EXPECT_EQ(settingsStore.SelectedLangResFile.value.CStr(), std::wstring(L"\\Lost.dll"));
-}
-
-// Presses a button of the folder dialog from inside its loop.
-UINT answer;
-
-void CALLBACK AnswerFolderDialog(HWND, UINT, UINT_PTR timer, DWORD) {
-    HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
-    if (!dialog) return;
-    KillTimer(nullptr, timer);
-    dialogTitle = TextOf(GetParent(GetParent(dialog)));
-    SendMessage(dialog, WM_COMMAND, answer, 0);
+    EXPECT_STREQ(settingsStore.SelectedLangResFile.value.CStr(), L"\\Lost.dll");
 }
 
 TEST_F(GeneralPageTest, ClearsAndBrowsesTheSkinPath) {
-    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", kLanguageFolder);
+    const std::wstring folder = folder_->PathOf(L"LangRes");
+    SetText(HKEY_CURRENT_USER, kRoot, L"SkinPath", folder);
     HWND window = Open();
     HWND edit = GetDlgItem(window, 1212);
-    EXPECT_EQ(TextOf(edit), kLanguageFolder);
+    EXPECT_EQ(TextOf(edit), folder);
     Tap(window, 1213);
     EXPECT_EQ(TextOf(edit), L"");
     for (const UINT button : {IDCANCEL, IDOK}) {
-        answer = button;
-        SetWindowText(edit, (std::wstring(kProgramFiles) + L"\\").c_str());
-        SetTimer(nullptr, 0, 20, AnswerFolderDialog);
+        SetWindowText(edit, (folder + L"\\").c_str());
+        const DialogSteps answer(L"SelectFolderWin", {[&](HWND dialog) {
+                                     EXPECT_EQ(TextOf(owner_), L"Select Skin Path");
+                                     SendMessage(dialog, WM_COMMAND, button, 0);
+                                 }});
         Tap(window, 1214);
-        EXPECT_EQ(dialogTitle, L"Select Skin Path");
-        EXPECT_EQ(TextOf(edit), std::wstring(kProgramFiles) + (button == IDOK ? L"" : L"\\"));
+        EXPECT_EQ(TextOf(edit), folder + (button == IDOK ? L"" : L"\\"));
     }
     Tap(window, 1213);
     Close();
@@ -315,18 +216,4 @@ TEST_F(GeneralPageTest, SavesTheBoxesOfWideScreens) {
     EXPECT_EQ(settingsStore.UseThinLines.value, 1u);
 }
 
-// Another program may close the main window while the folder dialog, and the page below, are open.
-TEST_F(GeneralPageTest, SurvivesBeingClosedBehindTheFolderDialog) {
-    HWND window = Open();
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        HWND dialog = FindWindow(L"SelectFolderWin", nullptr);
-        if (!dialog) return;
-        KillTimer(nullptr, timer);
-        ClosePage(**openPage);
-        openPage->reset();
-    });
-    openPage = &page_;
-    Tap(window, 1214);
-    EXPECT_FALSE(IsWindow(window));
-}
 } // namespace

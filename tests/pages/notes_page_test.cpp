@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
-#include <vector>
 
 #include "platform/include/stand_in.h"
 #include "resource_ids.h"
@@ -12,7 +10,6 @@
 #include "tests/support/dialog_steps.h"
 #include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
-#include "tests/support/resource_count.h"
 
 namespace {
 constexpr wchar_t kNotes[] = L"Software\\Teskel\\Orvane\\Notes";
@@ -62,15 +59,6 @@ class NotesPageTest : public PageFixture {
 
     std::unique_ptr<InstallFolder> folder_;
 };
-
-TEST_F(NotesPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    constexpr ControlCase kControls[] = {
-        {1201, L"NotesActiveSearchBar", true, 0, 1}, {1203, L"NotesPreviewNotesState", true, 1, 0},
-        {1205, L"NotesBreakLineStyle", true, 0, 2},  {1206, L"NotesIncldFoldBttns", false, 0, 1},
-        {1207, L"NotesIncldCounters", false, 0, 1},
-    };
-    ExpectEachControlToSaveItsOwn(kNotes, kControls);
-}
 
 TEST_F(NotesPageTest, TheSearchBarMayBeACustomAlphabet) {
     folder_->Write(L"CustomAlphabets\\Greek.txt", "Letters of Greece\nA\n");
@@ -207,46 +195,12 @@ TEST_F(NotesPageTest, AddsAFolderOnce) {
 TEST_F(NotesPageTest, TheRootCannotBeAdded) {
     Open();
     const MessageBoxAnswer answer(IDOK);
-    {
-        const DialogSteps steps(L"SelectFolderWin",
-                                {[](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); }});
-        Tap(page_->hwnd, kAdd);
-    }
+    TapAndWork(kAdd, L"SelectFolderWin",
+               {[](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); }});
     EXPECT_EQ(answer.count, 1);
     EXPECT_EQ(RowsOf(List()), L"");
     Close();
     EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kFolders, L"0"));
-}
-
-// Another program may close the main window while a dialog, and the page below, are open.
-TEST_F(NotesPageTest, SurvivesBeingClosedBehindItsDialogs) {
-    {
-        HWND window = Open();
-        const MessageBoxAnswer answer(IDOK);
-        const DialogSteps steps(L"SelectFolderWin", {[this](HWND) { Close(); }});
-        Tap(window, kAdd);
-        EXPECT_FALSE(IsWindow(window));
-        EXPECT_EQ(answer.count, 0) << "no folder was chosen";
-    }
-    for (const int button : {kAdd, kRemove}) {
-        HWND window = Open();
-        std::optional<DialogSteps> box;
-        const auto closeBehindBox = [&] {
-            box.emplace(L"#32770", std::vector<DialogSteps::Step>{[this](HWND refusal) {
-                            Close();
-                            if (IsWindow(refusal)) PostMessage(refusal, WM_COMMAND, IDOK, 0);
-                        }});
-        };
-        const DialogSteps folder(L"SelectFolderWin", {[&](HWND dialog) { // The root is refused.
-                                     closeBehindBox();
-                                     SendMessage(dialog, WM_COMMAND, IDOK, 0);
-                                 }});
-        if (button == kRemove) closeBehindBox();
-        Tap(window, button);
-        EXPECT_FALSE(IsWindow(window)) << button;
-        if (page_) Close();
-        EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, kFolders, L"0")) << button;
-    }
 }
 
 TEST_F(NotesPageTest, RemovesTheSelectedFolder) {
@@ -269,22 +223,4 @@ TEST_F(NotesPageTest, RemovesTheSelectedFolder) {
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, kFolders, L"1"), A());
 }
 
-TEST_F(NotesPageTest, LeavesNoIconsBehind) {
-    SetText(HKEY_CURRENT_USER, kFolders, L"0", A());
-    SetText(HKEY_CURRENT_USER, kFolders, L"1", B());
-    const auto visit = [this] {
-        Open();
-        ShowTab(3);
-        PumpMessages();
-        Close();
-    };
-    for (int i = 0; i < 3; ++i)
-        visit(); // What is made once stays.
-    const size_t objects = CountGdiObjects();
-    const size_t handle = HighestUserHandle();
-    for (int i = 0; i < 10; ++i)
-        visit();
-    EXPECT_EQ(CountGdiObjects(), objects);
-    EXPECT_EQ(HighestUserHandle(), handle);
-}
 } // namespace

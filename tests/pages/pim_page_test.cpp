@@ -14,8 +14,6 @@ namespace {
 constexpr wchar_t kPim[] = L"Software\\Teskel\\Orvane\\CustomPIM";
 constexpr int kApplication = 1201;
 
-std::unique_ptr<SettingsPage>* openPage;
-
 class PimPageTest : public PageFixture {
   protected:
     PimPageTest() : PageFixture(9) {}
@@ -135,22 +133,6 @@ TEST_F(PimPageTest, KeysCannotSlipTheCalendarIn) {
     Close();
     EXPECT_EQ(settingsStore.PimSw.value, 0u);
     EXPECT_EQ(answer.count, 2);
-}
-
-TEST_F(PimPageTest, SurvivesBeingClosedBehindTheRefusal) {
-    HWND window = Open();
-    openPage = &page_;
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        HWND box = GetLastActivePopup((*openPage)->hwnd);
-        if (box == (*openPage)->hwnd) return;
-        KillTimer(nullptr, timer);
-        ClosePage(**openPage);
-        openPage->reset();
-        if (IsWindow(box)) PostMessage(box, WM_COMMAND, IDOK, 0);
-    });
-    ChooseApplication(4);
-    EXPECT_FALSE(IsWindow(window));
-    EXPECT_EQ(settingsStore.PimSw.value, 0u);
 }
 
 TEST_F(PimPageTest, RemindersStandForTheirMinutes) {

@@ -111,43 +111,6 @@ TEST_F(PageHost, OpensOverTheMainWindowAndCallsTheOperationsInOrder) {
     EXPECT_EQ(page.hwnd, nullptr);
 }
 
-TEST_F(PageHost, OpensTheSamePageAgain) {
-    for (int i = 0; i < 3; ++i) {
-        RecordingPage page(1);
-        Open(page);
-        ClosePage(page);
-    }
-    WNDCLASS left{};
-    EXPECT_FALSE(GetClassInfo(application.instance, kPageClass, &left))
-        << "the class outlives the page";
-}
-
-TEST_F(PageHost, WithoutTabsHasNoStripAndStillLaysOut) {
-    RecordingPage page(0);
-    Open(page);
-    EXPECT_EQ(page.tabStrip, nullptr);
-    page.log.clear();
-    MoveWindow(page.hwnd, 0, 30, 150, 150, FALSE);
-    EXPECT_NE(page.log.find("Layout "), std::string::npos);
-    ClosePage(page);
-}
-
-TEST_F(PageHost, KeepsTheStripAtTheBottomWhenOnlyTheSizeChanges) {
-    RecordingPage page(2);
-    Open(page);
-    MoveWindow(page.hwnd, kOwnerPlace.left, kOwnerPlace.top, 180, 120, FALSE);
-    RECT client{};
-    RECT strip{};
-    GetClientRect(page.hwnd, &client);
-    GetWindowRect(page.tabStrip, &strip);
-    MapWindowPoints(nullptr, page.hwnd, reinterpret_cast<POINT*>(&strip), 2);
-    EXPECT_EQ(strip.left, Scale(-2));
-    EXPECT_EQ(strip.top, client.bottom - Scale(22) + 1);
-    EXPECT_EQ(strip.right - strip.left, client.right + Scale(2));
-    EXPECT_EQ(strip.bottom, client.bottom);
-    ClosePage(page);
-}
-
 TEST_F(PageHost, RoutesCommandsAndMessages) {
     RecordingPage page(0);
     Open(page);

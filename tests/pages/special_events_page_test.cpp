@@ -27,20 +27,6 @@ class SpecialEventsPageTest : public PageFixture {
     }
 };
 
-TEST_F(SpecialEventsPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    constexpr ControlCase kControls[] = {
-        {1201, L"SEventDays", true, 1, 0},
-        {1203, L"SEAlertBeforeDays", true, 0, 15},
-        {1205, L"SEDateFormat", true, 4, 3},
-        {1207, L"SEContactFormat", true, 2, 1},
-        {1211, L"SEFilterAlertBeforeDays", true, 15, 7},
-        {1221, L"BreakLineStyle", true, 0, 2},
-        {1222, L"IncldFoldBttns", false, 0, 1},
-        {1223, L"IncldCounters", false, 0, 1},
-    };
-    ExpectEachControlToSaveItsOwn(kEvents, kControls);
-}
-
 TEST_F(SpecialEventsPageTest, ShowsNumbersForPositions) {
     HWND window = Open();
     for (const int id : {1203, 1211})

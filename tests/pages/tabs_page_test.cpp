@@ -9,7 +9,6 @@
 #include "shell/services/resource_strings.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/page_fixture.h"
-#include "ui/key_navigation.h"
 #include "ui/list_items.h"
 
 namespace {
@@ -29,11 +28,6 @@ void RegisterItem(const wchar_t* name, uint32_t type, uint32_t enabled) {
     SetNumber(HKEY_LOCAL_MACHINE, ItemKey(name), L"Type", type);
     SetNumber(HKEY_LOCAL_MACHINE, ItemKey(name), L"Enabled", enabled);
     SetText(HKEY_LOCAL_MACHINE, ItemKey(name), L"DLL", std::wstring(L"\\") + name + L".dll");
-}
-
-void Press(HWND root, WPARAM key) {
-    const MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
-    if (!TranslateNavigationKey(root, message)) SendMessage(message.hwnd, WM_KEYDOWN, key, 0);
 }
 
 const DialogSteps::Step kOk = [](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); };
@@ -94,45 +88,6 @@ TEST_F(TabsPageTest, MovesAndTicksTabsAndNumbersThemFromTwo) {
     Open();
     EXPECT_EQ(Stored(), kMoved);
     Close();
-}
-
-// Each of the forms' controls with its own setting: two that were swapped would show.
-TEST_F(TabsPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    struct Row {
-        int id;
-        const wchar_t* name;
-        uint32_t stored;
-        uint32_t chosen;
-    };
-    const Row rows[] = {
-        {1201, L"TabsMode", 1, 0},        {1203, L"TabGesturesMode", 2, 0},
-        {1205, L"TabGesturEffect", 0, 1}, {1212, L"DfltTabTimeOut", 6, 3},
-        {1214, L"DfltTab", 5, 4},
-    };
-    for (const Row& changed : rows) {
-        for (const Row& row : rows)
-            SetNumber(HKEY_CURRENT_USER, kTabSettings, row.name, row.stored);
-        HWND window = Open();
-        Choose(window, changed.id, static_cast<int>(changed.chosen));
-        EXPECT_EQ(IsEnabled(1205), changed.id != 1203);
-        Close();
-        settingsStore.Save();
-        Open();
-        for (const Row& row : rows) {
-            EXPECT_EQ(SendDlgItemMessage(page_->hwnd, row.id, CB_GETCURSEL, 0, 0),
-                      static_cast<LRESULT>(row.id == changed.id ? row.chosen : row.stored))
-                << row.id << " after " << changed.id;
-        }
-        Close();
-    }
-    SetNumber(HKEY_CURRENT_USER, kTabSettings, L"DfltTabOnStartup", 2);
-    Open();
-    EXPECT_EQ(IsDlgButtonChecked(page_->hwnd, 1215), 1u) << "any number but 0";
-    Reopen();
-    EXPECT_EQ(settingsStore.DfltTabOnStartup.value, 1u);
-    Tap(page_->hwnd, 1215);
-    Close();
-    EXPECT_EQ(settingsStore.DfltTabOnStartup.value, 0u);
 }
 
 TEST_F(TabsPageTest, OffersPluginsAloneAndWantsOneSelected) {
@@ -228,44 +183,25 @@ TEST_F(TabsPageTest, RefusesASecondTabOfAPluginAndRemovesHostedTabsAlone) {
     EXPECT_EQ(GetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Mail"), L"Enabled"), 0u);
 }
 
-TEST_F(TabsPageTest, IsWorkedByKeys) {
-    RegisterItem(L"Alarm", 4, 0);
+TEST_F(TabsPageTest, LeavesTheFocusOnTheListWhenATabIsRemoved) {
     SetNumber(HKEY_CURRENT_USER, std::wstring(kTabSettings) + L"\\Alarm", L"Order", 2);
     HWND window = Open();
     ShowTab(1);
-    FocusFirstControl(window);
-    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kList);
-    Press(window, VK_RETURN);
-    EXPECT_FALSE(IsRowTicked(List(), 0));
     Select(L"Alarm");
     SetFocus(GetDlgItem(window, kRemove));
-    Press(window, VK_RETURN);
+    Tap(window, kRemove);
     EXPECT_EQ(Rows(), kOwnTabs);
     EXPECT_EQ(GetDlgCtrlID(GetFocus()), kList) << "not on the disabled button";
-
-    int first = 0;
-    int after = 0;
-    Add({[&](HWND) {
-             first = GetDlgCtrlID(GetFocus());
-             PostMessage(GetFocus(), WM_KEYDOWN, VK_DOWN, 0);
-         },
-         [&](HWND) {
-             after = GetDlgCtrlID(GetFocus());
-             PostMessage(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
-         }});
-    EXPECT_EQ(first, 473);
-    EXPECT_EQ(after, IDCANCEL);
-    EXPECT_EQ(Rows(), kOwnTabs);
     Close();
 }
 
-// Another program may close the main window, and the page, while the dialog is open.
-TEST_F(TabsPageTest, SurvivesBeingClosedBehindTheDialog) {
-    RegisterItem(L"Alarm", 4, 0);
+// A gesture's effect needs gestures.
+TEST_F(TabsPageTest, EnablesTheEffectOfGestures) {
     HWND window = Open();
-    const DialogSteps work(L"#32770", {[this](HWND) { Close(); }});
-    Tap(window, kAdd);
-    EXPECT_FALSE(IsWindow(window));
-    EXPECT_EQ(Stored().find(L"Alarm"), std::wstring::npos);
+    for (const int gestures : {0, 2, 0}) {
+        Choose(window, 1203, gestures);
+        EXPECT_EQ(IsEnabled(1205), gestures != 0);
+    }
+    Close();
 }
 } // namespace

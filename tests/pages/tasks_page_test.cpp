@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 #include "resource_ids.h"
 #include "shell/services/resource_strings.h"
@@ -65,26 +64,6 @@ class TasksPageTest : public PageFixture {
         EXPECT_EQ(settingsStore.TasksRightIcons.value, right);
     }
 };
-
-// Every number of the forms, each by the control that edits it: two that were swapped would show.
-TEST_F(TasksPageTest, EveryControlShowsAndSavesItsOwnSetting) {
-    constexpr ControlCase kControls[] = {
-        {1201, L"TsksDateFrmt", true, 11, 4},
-        {1203, L"TsksLimitFutureDate", true, 7, 2},
-        {1204, L"HideCompletedTasks", false, 1, 0},
-        {1205, L"HidePastCompletedTasks", false, 0, 1},
-        {1206, L"ConfirmTaskCompleteTsks", false, 0, 1},
-        {1207, L"RemoveUndatedLeadingStr", false, 1, 0},
-        {1208, L"RemoveUndatedTsks", false, 1, 0},
-        {1210, L"TsksLineBreaker", true, 0, 2},
-        {1212, L"TsksFoldingType", true, 0, 1},
-        {1213, L"TsksUseSmartFolding", false, 0, 1},
-        {1214, L"IncludeCountersTsks", false, 0, 1},
-        {1221, L"UseCustomDateTsks", false, 1, 0},
-        {1227, L"TsksCustomDateStruct", true, 2, 0},
-    };
-    ExpectEachControlToSaveItsOwn(kTasks, kControls);
-}
 
 TEST_F(TasksPageTest, SavesTheTextsOfCustomDatesAsTyped) {
     SetText(HKEY_CURRENT_USER, kTasks, L"CustomDateFrmtStart", L"d.M.");
@@ -215,22 +194,6 @@ TEST_F(TasksPageTest, TheIconsAreWorkedByKeys) {
     Close();
 }
 
-// Another program may close the main window, and the page, while a chooser's menu is open.
-std::unique_ptr<SettingsPage>* openPage;
-
-TEST_F(TasksPageTest, SurvivesBeingClosedBehindAMenu) {
-    HWND window = OpenIcons(0, 0, 383);
-    openPage = &page_;
-    SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        ClosePage(**openPage);
-        openPage->reset();
-    });
-    SendDlgItemMessage(window, kLeft1, BM_CLICK, 0, 0);
-    EXPECT_FALSE(IsWindow(window));
-    ExpectIcons(0, 0, 383);
-}
-
 // The screen's pointer follows in its own time.
 void MovePointer(int x, int y) {
     constexpr int kMostTurns = 100;
@@ -277,27 +240,22 @@ TEST_F(TasksPageTest, ATapThatLosesThePenPressesNothing) {
     Close();
 }
 
-// How many pixels of a band as wide as the page are not white.
-int DrawnPixels(HWND window, int top, int bottom) {
-    RECT client{};
-    GetClientRect(window, &client);
-    const std::vector<COLORREF> pixels = PixelsOf(window, {0, top, client.right, bottom});
-    return static_cast<int>(pixels.size()) -
-           static_cast<int>(std::ranges::count(pixels, RGB(255, 255, 255)));
-}
-
 TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     HWND window = OpenIcons(0, 0, 0);
     RECT strip{};
     GetWindowRect(GetDlgItem(window, kRight), &strip);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&strip), 2);
-    const int bottom = strip.bottom + ScaleY(8 + 42);
-    const auto drawn = [&] { return DrawnPixels(window, bottom - ScaleY(20), bottom); };
+    const LONG bottom = strip.bottom + ScaleY(8 + 42);
+    const auto drawn = [&] { // Pixels that are not white.
+        const RECT sample{0, bottom - ScaleY(20), strip.right, bottom};
+        return std::ranges::count_if(PixelsOf(window, sample),
+                                     [](COLORREF pixel) { return pixel != RGB(255, 255, 255); });
+    };
     UpdateWindow(window);
-    const int plain = drawn();
+    const auto plain = drawn();
     EXPECT_GT(plain, 0);
     TapRight(0);
-    const int oneIcon = drawn();
+    const auto oneIcon = drawn();
     EXPECT_GT(oneIcon, plain);
     ChooseLeft(kLeft1, 2);
     EXPECT_GT(drawn(), oneIcon);
@@ -306,5 +264,4 @@ TEST_F(TasksPageTest, TheSampleFollowsEachChoiceAtOnce) {
     EXPECT_EQ(drawn(), 0) << "the sample stands on its own tab alone";
     Close();
 }
-
 } // namespace

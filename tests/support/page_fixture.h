@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -16,20 +15,10 @@
 #include "settings/settings_store.h"
 #include "shell/page_factory.h"
 #include "shell/services/application.h"
-#include "shell/services/handles.h"
 #include "shell/services/scaling.h"
+#include "tests/support/dialog_steps.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
-
-// A control of a page, the value that it edits, what is stored at first, and what is chosen then:
-// the index of an entry, or the state of a box.
-struct ControlCase {
-    int id;
-    const wchar_t* name;
-    bool isCombo;
-    uint32_t stored;
-    uint32_t chosen;
-};
 
 class PageFixture : public RegistryFixture {
   protected:
@@ -80,6 +69,12 @@ class PageFixture : public RegistryFixture {
         SendMessage(page_->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
     }
 
+    // Taps a button and works what it opens.
+    void TapAndWork(int button, const wchar_t* dialog, std::vector<DialogSteps::Step> steps) const {
+        const DialogSteps work(dialog, std::move(steps));
+        Tap(page_->hwnd, button);
+    }
+
     bool IsEnabled(int id) const { return IsWindowEnabled(GetDlgItem(page_->hwnd, id)); }
 
     // A text of the language library; every one that a test asks for must be there.
@@ -89,75 +84,9 @@ class PageFixture : public RegistryFixture {
         return text;
     }
 
-    // Whether a part of the page shows this text alone: drawn over it, nothing changes.
-    [[nodiscard]] bool ShowsText(const RECT& part, const std::wstring& text, UINT format) const {
-        HWND window = page_->hwnd;
-        UpdateWindow(window);
-        const auto font = reinterpret_cast<HFONT>(SendMessage(page_->tabStrip, WM_GETFONT, 0, 0));
-        HDC dc = GetDC(window);
-        const std::vector<uint32_t> shown = PixelsIn(dc, part);
-        FillRect(dc, &part, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-        const std::vector<uint32_t> blank = PixelsIn(dc, part);
-        {
-            const SelectScope pageFont(dc, font);
-            RECT place = part;
-            DrawText(dc, text.c_str(), -1, &place, format);
-        }
-        const std::vector<uint32_t> drawn = PixelsIn(dc, part);
-        ReleaseDC(window, dc);
-        EXPECT_NE(drawn, blank);
-        return shown == drawn;
-    }
-
-    uint32_t Shown(const ControlCase& control) const {
-        return static_cast<uint32_t>(SendDlgItemMessage(
-            page_->hwnd, control.id, control.isCombo ? CB_GETCURSEL : BM_GETCHECK, 0, 0));
-    }
-
-    // Changes each control alone, by way of the registry: two that were swapped would show.
-    void ExpectEachControlToSaveItsOwn(const wchar_t* key, std::span<const ControlCase> controls) {
-        for (const ControlCase& changed : controls) {
-            for (const ControlCase& control : controls)
-                SetNumber(HKEY_CURRENT_USER, key, control.name, control.stored);
-            HWND window = Open();
-            if (changed.isCombo)
-                Choose(window, changed.id, static_cast<int>(changed.chosen));
-            else
-                Tap(window, changed.id);
-            Close();
-            settingsStore.Save();
-            Open();
-            for (const ControlCase& control : controls) {
-                EXPECT_EQ(Shown(control),
-                          control.id == changed.id ? control.chosen : control.stored)
-                    << control.id << " after " << changed.id;
-            }
-            Close();
-        }
-    }
-
     HWND owner_ = nullptr;
     std::unique_ptr<SettingsPage> page_;
 
   private:
-    static std::vector<uint32_t> PixelsIn(HDC dc, const RECT& part) {
-        const LONG width = part.right - part.left;
-        const LONG height = part.bottom - part.top;
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        const UniqueBitmap bitmap(CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        const UniqueDc copy(CreateCompatibleDC(dc));
-        const SelectScope selected(copy.Get(), bitmap.Get());
-        BitBlt(copy.Get(), 0, 0, width, height, dc, part.left, part.top, SRCCOPY);
-        GdiFlush();
-        const auto* pixels = static_cast<const uint32_t*>(bits);
-        return {pixels, pixels + width * height};
-    }
-
     int row_;
 };

@@ -68,29 +68,6 @@ std::wstring Values(HWND picker) {
     return values + TextOf(GetDlgItem(picker, kHtml));
 }
 
-// What shows of a window's controls, its tab strip among them, lies inside it and apart.
-void ExpectNoOverlap(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&client), 2);
-    std::vector<std::pair<int, RECT>> places;
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (!IsWindowVisible(child)) continue;
-        RECT place{};
-        GetWindowRect(child, &place);
-        const int id = GetDlgCtrlID(child);
-        EXPECT_LT(place.top, place.bottom) << id;
-        EXPECT_LT(place.left, place.right) << id;
-        EXPECT_GE(place.top, client.top) << id;
-        EXPECT_LE(place.bottom, client.bottom) << id;
-        for (const auto& [other, otherPlace] : places) {
-            RECT common{};
-            EXPECT_FALSE(IntersectRect(&common, &place, &otherPlace)) << id << " and " << other;
-        }
-        places.emplace_back(id, place);
-    }
-}
-
 TEST_F(ColourPickerTest, GivesTheColourNoneOrCancelled) {
     const auto nothing = [](HWND) {};
     const auto tapDefault = [](HWND picker) { Tap(picker, kDefault); };
@@ -220,20 +197,6 @@ TEST_F(ColourPickerTest, KeysMoveTheMarksAndLeaveAtTheEdges) {
                             EXPECT_EQ(GetFocus(), GetDlgItem(picker, kDefault));
                         }),
               RGB(0x8C, 0x8C, 0x8C));
-}
-
-TEST_F(ColourPickerTest, FitsItsScreen) {
-    for (const SIZE size : {SIZE{240, 268}, SIZE{320, 188}, SIZE{320, 108}, SIZE{240, 188}}) {
-        MoveWindow(owner_, 0, Scale(26), Scale(static_cast<int>(size.cx)),
-                   Scale(static_cast<int>(size.cy)), FALSE);
-        PickAfter(kStart, [size](HWND picker) {
-            HWND strip = FindWindowEx(picker, nullptr, WC_TABCONTROL, nullptr);
-            for (int tab = 0; tab < 2; ++tab) {
-                SendMessage(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
-                ExpectNoOverlap(picker);
-            }
-        });
-    }
 }
 
 // The shades of a colour give it back, but for rounding.

@@ -9,6 +9,7 @@
 #include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
 #include "tests/support/window_support.h"
+#include "ui/folder_dialog.h"
 
 namespace {
 constexpr int kPathText = 100;
@@ -20,7 +21,7 @@ constexpr const wchar_t* kFolders[] = {L"\\FileTest", L"\\FileTest\\beta", L"\\F
 constexpr const wchar_t* kFiles[] = {L"\\FileTest\\one.ovsb", L"\\FileTest\\TWO.OVSB",
                                      L"\\FileTest\\longer.ovsbx", L"\\FileTest\\other.txt"};
 
-enum class Kind { Save, Open };
+enum class Kind { Save, Open, Folder };
 
 class FileDialogTest : public testing::Test {
   protected:
@@ -46,11 +47,18 @@ class FileDialogTest : public testing::Test {
     // Runs a dialog through the given steps in \FileTest. Gives the path chosen, or L"untouched".
     std::wstring Run(Kind kind, const wchar_t* name, std::vector<DialogSteps::Step> steps) {
         steps.insert(steps.begin(), WalkToTestFolder);
-        const DialogSteps work(kind == Kind::Save ? L"SaveFileWin" : L"LoadFileWin", steps);
+        return RunHere(kind, name, steps);
+    }
+    std::wstring RunHere(Kind kind, const wchar_t* name, std::vector<DialogSteps::Step> steps) {
+        constexpr const wchar_t* kClasses[] = {L"SaveFileWin", L"LoadFileWin", L"SelectFolderWin"};
+        const DialogSteps work(kClasses[static_cast<int>(kind)], std::move(steps));
         const FileDialogText text{L"Title", L"Backup (ovsb)", L"ovsb", name};
-        WideString path(L"untouched");
-        confirmed_ = kind == Kind::Save ? SelectFileToSave(owner_, text, path)
-                                        : SelectFileToOpen(owner_, text, path);
+        WideString path(kind == Kind::Folder ? name : L"untouched");
+        confirmed_ = kind == Kind::Folder ? SelectFolder(owner_, L"Select Folder", path)
+                     : kind == Kind::Save ? SelectFileToSave(owner_, text, path)
+                                          : SelectFileToOpen(owner_, text, path);
+        EXPECT_TRUE(IsWindowEnabled(owner_));
+        EXPECT_EQ(TextOf(owner_), L"Owner");
         return path.CStr();
     }
 
@@ -146,10 +154,7 @@ TEST_F(FileDialogTest, StartsWhereAFileWasChosenLast) {
     // Where a dialog that is cancelled went does not count.
     Run(Kind::Open, L"", {});
     std::wstring start;
-    const DialogSteps work(L"LoadFileWin",
-                           {[&](HWND dialog) { start = TextOf(GetDlgItem(dialog, kPathText)); }});
-    WideString path;
-    EXPECT_FALSE(SelectFileToOpen(owner_, {L"Title", L"Backup (ovsb)", L"ovsb", L""}, path));
+    RunHere(Kind::Open, L"", {[&](HWND dialog) { start = TextOf(GetDlgItem(dialog, kPathText)); }});
     EXPECT_EQ(start, L"\\FileTest\\beta");
 }
 
@@ -188,6 +193,35 @@ TEST_F(FileDialogTest, AsksBeforeItReplacesAFile) {
     EXPECT_EQ(tapped, L"one.ovsb");
     EXPECT_EQ(no.count, 1);
     EXPECT_TRUE(stays);
+}
+
+TEST_F(FileDialogTest, TheFolderDialogTakesTheFolderThatItShows) {
+    std::wstring shown;
+    const auto note = [&shown](HWND dialog) {
+        shown +=
+            TextOf(GetDlgItem(dialog, kPathText)) + L":" + RowsOf(GetDlgItem(dialog, kList)) + L" ";
+    };
+    EXPECT_EQ(RunHere(Kind::Folder, L"\\FileTest\\",
+                      {[&](HWND dialog) {
+                           note(dialog);
+                           SendDlgItemMessage(dialog, kList, WM_KEYDOWN, VK_DOWN, 0);
+                           SendDlgItemMessage(dialog, kList, WM_KEYDOWN, VK_RETURN, 0);
+                           note(dialog);
+                       },
+                       PressOk}),
+              L"\\FileTest\\beta");
+    EXPECT_EQ(shown, L"\\FileTest:Alpha|beta \\FileTest\\beta: ") << "folders only, in order";
+    EXPECT_TRUE(confirmed_);
+
+    EXPECT_EQ(RunHere(Kind::Folder, L"\\FileTest",
+                      {[](HWND dialog) {
+                           Tap(dialog, kUpButton);
+                           EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, kUpButton)));
+                       },
+                       PressOk}),
+              L"\\");
+    EXPECT_EQ(RunHere(Kind::Folder, L"\\Missing", {[](HWND) { Press(VK_ESCAPE); }}), L"\\Missing");
+    EXPECT_FALSE(confirmed_);
 }
 
 TEST_F(FileDialogTest, ReplacesWhenToldToAndOpensWithoutAQuestion) {
