@@ -34,7 +34,7 @@ constexpr wchar_t kNothingSelectedCaption[] = L"Selection Missing";
 class AddPluginDialog final : private TemplateDialog {
   public:
     // IDOK when a plug-in was chosen.
-    int Run(HWND owner) { return RunTemplate(owner, IDD_ADD_PLUGIN, IDS_TABS_ADD_TITLE); }
+    int Run(HWND owner) { return RunTemplate(owner, application.instance, IDD_ADD_PLUGIN); }
     [[nodiscard]] const WideString& Chosen() const { return chosen_; }
 
   private:
@@ -65,6 +65,7 @@ void AddPluginDialog::Layout(HWND dialog) {
 }
 
 void AddPluginDialog::OnInit(HWND dialog) {
+    FillScreen(dialog, IDS_TABS_ADD_TITLE);
     SHMENUBARINFO bar{};
     bar.cbSize = sizeof(bar);
     bar.hwndParent = dialog;

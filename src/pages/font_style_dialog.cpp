@@ -49,7 +49,7 @@ constexpr TextOfControl kTexts[] = {
 class FontStyleDialog final : private TemplateDialog {
   public:
     FontStyleDialog(LOGFONT& font, COLORREF& colour) : font_(font), colour_(colour) {}
-    void Run(HWND owner) { RunTemplate(owner, IDD_FONT_STYLE, IDS_FONT_STYLE_TITLE); }
+    void Run(HWND owner) { RunTemplate(owner, application.instance, IDD_FONT_STYLE); }
 
   private:
     void OnInit(HWND dialog) override;
@@ -107,6 +107,7 @@ void FontStyleDialog::Layout(HWND dialog) {
 }
 
 void FontStyleDialog::OnInit(HWND dialog) {
+    FillScreen(dialog, IDS_FONT_STYLE_TITLE);
     CreateBar(dialog);
     for (const TextOfControl& entry : kTexts)
         SetDlgItemText(dialog, static_cast<int>(entry.control), LanguageText(entry.text).CStr());

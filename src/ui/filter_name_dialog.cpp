@@ -9,7 +9,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/controls.h"
-#include "ui/modal_loop.h"
+#include "ui/template_dialog.h"
 
 namespace {
 constexpr UINT kLabel = 419;
@@ -33,30 +33,26 @@ constexpr DialogControl kControls[] = {
     {IDCANCEL, IDS_FILTER_NAME_CANCEL, 134, 74, 80, 22},
 };
 
-// It runs in the program's own loop: the platform's would trap the directional pad in the field.
-class FilterNameDialog final : private ModalLoop {
+class FilterNameDialog final : private TemplateDialog {
   public:
     explicit FilterNameDialog(WideString& title) : title_(title) {}
     // True when the user has confirmed.
-    bool Run(HWND owner, const DLGTEMPLATE* form);
+    bool Run(HWND owner) {
+        return RunTemplate(owner, application.languageLibrary, IDD_FILTER_NAME) == IDOK;
+    }
 
   private:
-    static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
     bool OnKey(HWND dialog, const MSG& message) override;
-    void OnInit(HWND dialog) const;
-    void OnCommand(HWND dialog, UINT id);
+    void OnInit(HWND dialog) override;
+    void Layout(HWND dialog) override;
+    void OnCommand(HWND dialog, UINT id) override;
+    void OnDestroy() override;
 
     WideString& title_;
 };
 
-bool FilterNameDialog::Run(HWND owner, const DLGTEMPLATE* form) {
-    return RunOver(owner, CreateDialogIndirectParam(application.instance, form, owner, DialogProc,
-                                                    reinterpret_cast<LPARAM>(this))) == IDOK;
-}
-
 // By the middle of the screen; on a low one below the navigation bar.
-void PlaceOnScreen(HWND dialog) {
+void FilterNameDialog::Layout(HWND dialog) {
     RECT area{};
     SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
     const int top = GetSystemMetrics(SM_CYSCREEN) / 2 - ScaleY(kAboveCentre);
@@ -76,9 +72,9 @@ void PlaceControls(HWND dialog) {
     }
 }
 
-void FilterNameDialog::OnInit(HWND dialog) const {
+void FilterNameDialog::OnInit(HWND dialog) {
     PlaceControls(dialog);
-    PlaceOnScreen(dialog);
+    Layout(dialog); // The focus goes to what is shown only.
     HWND name = Item(dialog, kName);
     SendMessage(name, EM_LIMITTEXT, kNameLimit, 0);
     SetWindowText(name, title_.CStr());
@@ -99,43 +95,12 @@ void FilterNameDialog::OnCommand(HWND dialog, UINT id) {
     if (id == IDOK || id == IDCANCEL) Finish(static_cast<int>(id));
 }
 
-INT_PTR FilterNameDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
-    switch (message) {
-    case WM_INITDIALOG:
-        OnInit(dialog);
-        return FALSE; // The focus is set.
-    case WM_CTLCOLORDLG:
-    case WM_CTLCOLORSTATIC:
-        return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
-    case WM_DISPLAYCHANGE:
-        PlaceOnScreen(dialog);
-        return TRUE;
-    case WM_COMMAND:
-        OnCommand(dialog, LOWORD(wParam));
-        return TRUE;
-    case WM_DESTROY: // Also where it goes with its owner.
-        SipShowIM(SIPF_OFF);
-        OnDestroyed();
-        return TRUE;
-    default:
-        return FALSE;
-    }
-}
-
-INT_PTR CALLBACK FilterNameDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam,
-                                              LPARAM lParam) {
-    if (message == WM_INITDIALOG) SetWindowLongPtr(dialog, GWLP_USERDATA, lParam);
-    auto* self = reinterpret_cast<FilterNameDialog*>(GetWindowLongPtr(dialog, GWLP_USERDATA));
-    return self ? self->Dispatch(dialog, message, wParam) : FALSE;
+// Also where it goes with its owner.
+void FilterNameDialog::OnDestroy() {
+    SipShowIM(SIPF_OFF);
 }
 } // namespace
 
 bool AskFilterName(HWND owner, WideString& title) {
-    HMODULE library = application.languageLibrary;
-    if (!library) return false;
-    HRSRC found = FindResource(library, MAKEINTRESOURCE(IDD_FILTER_NAME), RT_DIALOG);
-    if (!found) return false;
-    // The device makes dialogs from templates in memory only; a loaded resource is its bytes.
-    const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(library, found));
-    return form && FilterNameDialog(title).Run(owner, form);
+    return FilterNameDialog(title).Run(owner);
 }

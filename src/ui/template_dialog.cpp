@@ -11,22 +11,23 @@ bool TemplateDialog::OnPaint(HWND) {
 
 void TemplateDialog::OnDestroy() {}
 
-int TemplateDialog::RunTemplate(HWND owner, UINT dialogTemplate, UINT titleId) {
-    titleId_ = titleId;
-    HRSRC found = FindResource(application.instance, MAKEINTRESOURCE(dialogTemplate), RT_DIALOG);
+int TemplateDialog::RunTemplate(HWND owner, HMODULE module, UINT dialogTemplate) {
+    // A null module would mean the program itself.
+    HRSRC found =
+        module ? FindResource(module, MAKEINTRESOURCE(dialogTemplate), RT_DIALOG) : nullptr;
     if (!found) return IDCANCEL;
     // The device makes dialogs from templates in memory only; a loaded resource is its bytes.
-    const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(application.instance, found));
+    const auto* form = static_cast<const DLGTEMPLATE*>(LoadResource(module, found));
+    if (!form) return IDCANCEL;
     return RunOver(owner, CreateDialogIndirectParam(application.instance, form, owner, DialogProc,
                                                     reinterpret_cast<LPARAM>(this)));
 }
 
-// With the navigation bar's ok button and without the input panel.
-void TemplateDialog::FillScreen(HWND dialog) const {
+void TemplateDialog::FillScreen(HWND dialog, UINT titleId) {
     SHINITDLGINFO info{SHIDIM_FLAGS, dialog,
                        SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN};
     SHInitDialog(&info);
-    SetWindowText(dialog, LanguageText(titleId_).CStr());
+    SetWindowText(dialog, LanguageText(titleId).CStr());
     for (HWND control = GetWindow(dialog, GW_CHILD); control;
          control = GetWindow(control, GW_HWNDNEXT))
         SendMessage(control, WM_SETFONT, reinterpret_cast<WPARAM>(application.normalFont), FALSE);
@@ -35,11 +36,11 @@ void TemplateDialog::FillScreen(HWND dialog) const {
 INT_PTR TemplateDialog::Dispatch(HWND dialog, UINT message, WPARAM wParam) {
     switch (message) {
     case WM_INITDIALOG:
-        FillScreen(dialog);
         OnInit(dialog);
         Layout(dialog);
         return FALSE; // The loop gives the focus.
     case WM_SIZE:
+    case WM_DISPLAYCHANGE:
         Layout(dialog);
         return TRUE;
     case WM_COMMAND:

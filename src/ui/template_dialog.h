@@ -4,18 +4,22 @@
 
 #include "ui/modal_loop.h"
 
-// A full-screen dialog made from a template among the program's own resources. It runs in the
-// program's own loop: the platform's would trap the directional pad in a drop-down list.
+// A dialog made from a template. It runs in the program's own loop: the platform's would trap the
+// directional pad in a drop-down list or a field.
 class TemplateDialog : protected ModalLoop {
   protected:
     TemplateDialog() = default;
     ~TemplateDialog() = default;
 
-    // Runs it over `owner`, which is disabled meanwhile. Gives what Finish was given; IDCANCEL when
-    // it cannot be made or goes another way.
-    int RunTemplate(HWND owner, UINT dialogTemplate, UINT titleId);
+    // Runs the template of a module over `owner`, which is disabled meanwhile. Gives what Finish
+    // was given; IDCANCEL when it cannot be made or goes another way.
+    int RunTemplate(HWND owner, HMODULE module, UINT dialogTemplate);
 
-    // The dialog fills the screen by now, its controls in the program's font.
+    // For OnInit: spreads the dialog over the screen, with the navigation bar's ok button and
+    // without the input panel, its controls in the program's font.
+    static void FillScreen(HWND dialog, UINT titleId);
+
+    // Layout follows it, as it follows every change of the dialog's size or the screen's.
     virtual void OnInit(HWND dialog) = 0;
     virtual void Layout(HWND dialog) = 0;
     virtual void OnCommand(HWND dialog, UINT id) = 0;
@@ -26,7 +30,4 @@ class TemplateDialog : protected ModalLoop {
   private:
     static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Dispatch(HWND dialog, UINT message, WPARAM wParam);
-    void FillScreen(HWND dialog) const;
-
-    UINT titleId_ = 0;
 };
