@@ -42,8 +42,7 @@ void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> list
     placedFor_ = {};
     shown_ = nullptr;
     refused_ = nullptr;
-    // The panel stands above the lists, and so do its keys.
-    panel_.Create(page, font, firstPanelId, kTop);
+    panel_ = OptionDetailPanel(page, font, firstPanelId, kTop);
 }
 
 void OptionLists::Place(HWND page) {
@@ -59,6 +58,8 @@ void OptionLists::Place(HWND page) {
 void OptionLists::Enter(HWND page, UINT listId) {
     const OptionList* list = ListOfId(listId);
     if (!list || Item(page, listId)) return;
+    // The panel stands above the lists, and so do its keys.
+    panel_.Create();
     HWND control = CreateList(page, listId, font_, kRowHeight);
     for (const Option& option : list->options)
         AddRow(control, LanguageText(option.texts.item).CStr());

@@ -57,13 +57,14 @@ struct OptionList {
 
 class OptionLists {
   public:
-    // Makes the panel, hidden. The table must outlive the object.
+    // The table must outlive the object. No control is made yet.
     void Create(HWND page, HFONT font, std::span<const OptionList> lists, UINT firstPanelId);
     // Places everything on the page when its size has changed.
     void Place(HWND page);
 
-    // Makes a list that is about to be shown for the first time, hidden. Filling one is slow, and
-    // of the lists of a page only few are ever looked at. An id that is no list's does nothing.
+    // Makes a list that is about to be shown for the first time, hidden, and with the first of them
+    // the panel. Filling a list is slow, and of a page's lists only few are ever looked at. An id
+    // that is no list's does nothing.
     void Enter(HWND page, UINT listId);
     // Stores the selected option of a list that is about to be hidden, which leaves nothing
     // selected and the panel hidden. An id that is no list's does nothing.

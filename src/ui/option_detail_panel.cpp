@@ -40,7 +40,8 @@ int LongestEntry(HFONT font, HWND combo) {
 }
 } // namespace
 
-void OptionDetailPanel::Create(HWND page, HFONT font, UINT firstId, int top) {
+void OptionDetailPanel::Create() const {
+    if (Control(Tip)) return;
     struct PartRow {
         const wchar_t* className;
         const wchar_t* text;
@@ -59,18 +60,15 @@ void OptionDetailPanel::Create(HWND page, HFONT font, UINT firstId, int top) {
         {L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL},
         {L"BUTTON", clear.CStr(), WS_TABSTOP},
     };
-    page_ = page;
-    font_ = font;
-    firstId_ = firstId;
-    top_ = top;
     for (UINT i = 0; i < kIdCount; ++i)
-        CreateHiddenControl(page, rows[i].className, rows[i].text, rows[i].style, firstId + i, {},
-                            font);
+        CreateHiddenControl(page_, rows[i].className, rows[i].text, rows[i].style, firstId_ + i, {},
+                            font_);
     SendMessage(Control(TextEdit), EM_LIMITTEXT, kTextLimit, 0);
     Place();
 }
 
 void OptionDetailPanel::Place() const {
+    if (!Control(Tip)) return;
     RECT client{};
     GetClientRect(page_, &client);
     const int width = client.right;

@@ -13,9 +13,14 @@ class OptionDetailPanel {
     static constexpr int kTextLimit = 255; // Characters of a path or text.
     static constexpr int kHeight = 68;     // Units, from the page's top margin to the list below.
 
-    // `top` is in units, as are all measures of the panel.
-    void Create(HWND page, HFONT font, UINT firstId, int top);
-    // Places the controls on the page's present width.
+    // `top` is in units, as are all measures of the panel. No control is made yet.
+    OptionDetailPanel(HWND page, HFONT font, UINT firstId, int top)
+        : page_(page), font_(font), firstId_(firstId), top_(top) {}
+    OptionDetailPanel() = default;
+
+    // Makes the controls where they are missing.
+    void Create() const;
+    // Places them, if there are any, on the page's present width.
     void Place() const;
     void Hide() const;
 

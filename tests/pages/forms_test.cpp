@@ -40,7 +40,7 @@ const Form kForms[] = {
      L"635 636 637 638 639 640 641 1530 642",
      L"713 |* 658 |716|717|718|719| 720 |721|722|723| 1525 1526 1213 1451 1644 |112|114| "
      L"1645 |730|731|732| 662 |735|736|737| 726 727 645 646 649 647 648 1210 1537 "
-     L"1533 |1531|1532|1538|1539| 1536 |1534|1535| 643 644 * * |* * 859 856 859"},
+     L"1533 |1531|1532|1538|1539| 1536 |1534|1535| 643 644"},
     {"Tasks", 2, L"\\Tasks",
      L"1201=TsksDateFrmt 1203=TsksLimitFutureDate 1204=HideCompletedTasks "
      L"1205=HidePastCompletedTasks 1206=ConfirmTaskCompleteTsks 1207=RemoveUndatedLeadingStr "
