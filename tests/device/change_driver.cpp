@@ -2,7 +2,7 @@
 // saves, and prints all that is then stored, so that two builds of the program can be compared.
 // Ends with 1 where a page has nothing to change, and with another code where the program does not
 // follow.
-#include "tests/device/program_driver.h"
+#include "tools/drivers/program_driver.h"
 
 #include <commctrl.h>
 

@@ -1,5 +1,5 @@
 // The installed program, worked from outside: real taps, real keys, the device's own registry.
-#include "tests/device/program_driver.h"
+#include "tools/drivers/program_driver.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "tests/device/program_driver.h"
+#include "tools/drivers/program_driver.h"
 
 #include <commctrl.h>
 

@@ -1,6 +1,6 @@
 // Leads through every page, tab and dialog of the installed program. At each sight it prints a name
 // and waits for a line on its input, so that whoever started it can take a picture.
-#include "tests/device/program_driver.h"
+#include "tools/drivers/program_driver.h"
 
 #include <commctrl.h>
 

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "tests/device/program_driver.h"
+#include "tools/drivers/program_driver.h"
 
 int main(int count, char** arguments) {
     const DWORD seconds = count > 1 ? std::strtoul(arguments[1], nullptr, 10) : 60;

@@ -1,6 +1,6 @@
 // Leads through a start, every page and a save, and tells whoever runs the program where one part
 // ends, so that it can count the instructions of each. Prints nothing.
-#include "tests/device/program_driver.h"
+#include "tools/drivers/program_driver.h"
 
 namespace {
 
