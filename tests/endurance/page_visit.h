@@ -22,11 +22,12 @@ inline void SelectEachRow(HWND parent) {
     }
 }
 
-// Opens a page and closes it, as a visitor does: every tab and every option, and back.
-inline void VisitPage(HWND mainWindow, int row) {
+// Opens a page and closes it, as a visitor does: at once, or after every tab and every option.
+inline void VisitPage(HWND mainWindow, int row, bool everywhere = true) {
     const std::unique_ptr<SettingsPage> page(CreatePage(mainWindow, row));
     ASSERT_TRUE(page && page->hwnd);
-    for (int tab = 0; tab < page->GetTabCount(); ++tab) {
+    PumpMessages();
+    for (int tab = 0; everywhere && tab < page->GetTabCount(); ++tab) {
         SendMessage(page->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
         PumpMessages();
         SelectEachRow(page->hwnd);
