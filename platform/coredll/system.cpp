@@ -77,6 +77,15 @@ int CALLBACK PassOnNewFace(const LOGFONTW* font, const TEXTMETRICW* metrics, DWO
     return enumeration.proc(font, metrics, type, enumeration.param);
 }
 
+// The PC's call, whose library is loaded with the first: it brings others, which take longer to
+// load than most of what a program does at its start. Null without the library.
+decltype(&SHGetFileInfoW) LoadFileInfoCall() {
+    HMODULE shell = LoadLibraryW(L"shell32.dll");
+    return shell ? reinterpret_cast<decltype(&SHGetFileInfoW)>(
+                       reinterpret_cast<void*>(GetProcAddress(shell, "SHGetFileInfoW")))
+                 : nullptr;
+}
+
 } // namespace
 
 extern "C" {
@@ -102,12 +111,14 @@ BOOL WINAPI CoreGetVersionExW(LPOSVERSIONINFOW info) {
 
 DWORD_PTR WINAPI CoreSHGetFileInfoW(LPCWSTR path, DWORD attributes, SHFILEINFOW* info, UINT size,
                                     UINT flags) {
+    static const auto getFileInfo = LoadFileInfoCall();
+    if (!getFileInfo) return 0;
     wchar_t fullPath[MAX_PATH];
     if (path && !(flags & SHGFI_PIDL) && LacksDrive(path)) {
         const DWORD length = GetFullPathNameW(path, MAX_PATH, fullPath, nullptr);
         if (length != 0 && length < MAX_PATH) path = fullPath;
     }
-    return SHGetFileInfoW(path, attributes, info, size, flags);
+    return getFileInfo(path, attributes, info, size, flags);
 }
 
 int WINAPI CoreEnumFontsW(HDC dc, LPCWSTR face, FONTENUMPROCW proc, LPARAM param) {

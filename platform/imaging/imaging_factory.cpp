@@ -8,18 +8,22 @@
 
 HRESULT ImagingFactory::Create(REFIID id, void** factory) {
     const ComRef<ImagingFactory> created(new (std::nothrow) ImagingFactory);
-    if (!created.Get()) return E_OUTOFMEMORY;
-    const HRESULT result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                            IID_IWICImagingFactory,
-                                            reinterpret_cast<void**>(created->codecs_.Receive()));
-    return FAILED(result) ? result : created->QueryInterface(id, factory);
+    return created.Get() ? created->QueryInterface(id, factory) : E_OUTOFMEMORY;
+}
+
+HRESULT ImagingFactory::LoadCodecs() {
+    if (codecs_.Get()) return S_OK;
+    return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                            IID_IWICImagingFactory, reinterpret_cast<void**>(codecs_.Receive()));
 }
 
 HRESULT ImagingFactory::CreateImageFromStream(IStream* stream, IImage** image) {
     if (!stream || !image) return E_INVALIDARG;
     *image = nullptr;
+    HRESULT result = LoadCodecs();
+    if (FAILED(result)) return result;
     Picture picture;
-    const HRESULT result = DecodePicture(codecs_.Get(), stream, picture);
+    result = DecodePicture(codecs_.Get(), stream, picture);
     if (FAILED(result)) return result;
     *image = new (std::nothrow) Image(std::move(picture));
     return *image ? S_OK : E_OUTOFMEMORY;
@@ -28,8 +32,10 @@ HRESULT ImagingFactory::CreateImageFromStream(IStream* stream, IImage** image) {
 HRESULT ImagingFactory::CreateImageFromFile(const WCHAR* path, IImage** image) {
     if (!path || !image) return E_INVALIDARG;
     *image = nullptr;
+    HRESULT result = LoadCodecs();
+    if (FAILED(result)) return result;
     ComRef<IWICStream> stream;
-    HRESULT result = codecs_->CreateStream(stream.Receive());
+    result = codecs_->CreateStream(stream.Receive());
     if (FAILED(result)) return result;
     result = stream->InitializeFromFilename(path, GENERIC_READ);
     return FAILED(result) ? result : CreateImageFromStream(stream.Get(), image);
@@ -40,8 +46,10 @@ HRESULT ImagingFactory::CreateImageFromBuffer(const VOID* buffer, UINT size,
     if (!buffer || !image) return E_INVALIDARG;
     *image = nullptr;
     if (disposal != BufferDisposalFlagNone) return E_NOTIMPL;
+    HRESULT result = LoadCodecs();
+    if (FAILED(result)) return result;
     ComRef<IWICStream> stream;
-    HRESULT result = codecs_->CreateStream(stream.Receive());
+    result = codecs_->CreateStream(stream.Receive());
     if (FAILED(result)) return result;
     result = stream->InitializeFromMemory(static_cast<BYTE*>(const_cast<void*>(buffer)), size);
     return FAILED(result) ? result : CreateImageFromStream(stream.Get(), image);

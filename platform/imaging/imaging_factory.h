@@ -10,7 +10,7 @@
 // the image is created.
 class ImagingFactory final : public ComObject<IImagingFactory, IID_IImagingFactory> {
   public:
-    // Fails when the system has no codecs or COM was not started on this thread.
+    // Fails only for want of memory; without codecs each image does.
     static HRESULT Create(REFIID id, void** factory);
 
     HRESULT STDMETHODCALLTYPE CreateImageFromStream(IStream* stream, IImage** image) override;
@@ -52,5 +52,10 @@ class ImagingFactory final : public ComObject<IImagingFactory, IID_IImagingFacto
     HRESULT STDMETHODCALLTYPE UninstallImageCodec(const WCHAR*, UINT) override { return E_NOTIMPL; }
 
   private:
+    // Makes codecs_ with the first image: the libraries behind it take longer to load than most of
+    // what a program does at its start. Fails when the system has no codecs or COM was not started
+    // on this thread.
+    HRESULT LoadCodecs();
+
     ComRef<IWICImagingFactory> codecs_;
 };
