@@ -1,9 +1,11 @@
 // Opening each page, from its creation to its first paint, against a bare window that makes the
-// same controls and a menu bar; and drawing the samples of the Calendar and Tasks pages.
+// same controls with the same entries in their lists, and a menu bar; and drawing the samples of
+// the Calendar and Tasks pages.
 
 #include <windows.h>
 
 #include <aygshell.h>
+#include <commctrl.h>
 
 #include <cstdio>
 #include <memory>
@@ -25,6 +27,7 @@ namespace {
 
 constexpr int kRounds = 31;
 constexpr wchar_t kBareClass[] = L"PageBench";
+constexpr std::wstring_view kComboBox = L"ComboBox";
 
 struct Control {
     std::wstring className;
@@ -32,6 +35,8 @@ struct Control {
     DWORD style;
     DWORD extendedStyle;
     RECT place; // On the page.
+    std::vector<std::wstring> entries;
+    SIZE rowImage; // Of a list view.
 };
 
 // A combo box is made with the height that it has with its list dropped, and it gives the style of
@@ -44,6 +49,58 @@ void ReadComboBox(HWND combo, DWORD& style, RECT& place) {
     SendMessage(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place));
 }
 
+void ReadEntries(HWND combo, std::vector<std::wstring>& entries) {
+    const LRESULT count = SendMessage(combo, CB_GETCOUNT, 0, 0);
+    for (LRESULT entry = 0; entry < count; ++entry) {
+        wchar_t text[256] = L"";
+        SendMessage(combo, CB_GETLBTEXT, static_cast<WPARAM>(entry),
+                    reinterpret_cast<LPARAM>(text));
+        entries.emplace_back(text);
+    }
+}
+
+void FillComboBox(HWND combo, const std::vector<std::wstring>& entries) {
+    for (const std::wstring& entry : entries)
+        SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+    SendMessage(combo, CB_SETCURSEL, 0, 0);
+}
+
+void ReadRows(HWND list, Control& control) {
+    const LRESULT count = SendMessage(list, LVM_GETITEMCOUNT, 0, 0);
+    for (LRESULT row = 0; row < count; ++row) {
+        wchar_t text[256] = L"";
+        LVITEM item{};
+        item.pszText = text;
+        item.cchTextMax = 256;
+        SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row),
+                    reinterpret_cast<LPARAM>(&item));
+        control.entries.emplace_back(text);
+    }
+    int width = 0;
+    int height = 0;
+    ImageList_GetIconSize(
+        reinterpret_cast<HIMAGELIST>(SendMessage(list, LVM_GETIMAGELIST, LVSIL_SMALL, 0)), &width,
+        &height);
+    control.rowImage = {width, height};
+}
+
+void FillListView(HWND list, const Control& control) {
+    HIMAGELIST images = ImageList_Create(control.rowImage.cx, control.rowImage.cy, ILC_COLOR, 0, 1);
+    SendMessage(list, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
+    LVCOLUMN column{};
+    column.mask = LVCF_WIDTH;
+    column.cx = control.place.right - control.place.left;
+    SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
+    int row = 0;
+    for (const std::wstring& entry : control.entries) {
+        LVITEM item{};
+        item.mask = LVIF_TEXT;
+        item.iItem = row++;
+        item.pszText = const_cast<wchar_t*>(entry.c_str());
+        SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
+    }
+}
+
 void AddControl(HWND window, std::vector<Control>& controls) {
     wchar_t className[64] = L"";
     wchar_t text[256] = L"";
@@ -52,11 +109,17 @@ void AddControl(HWND window, std::vector<Control>& controls) {
     auto style = static_cast<DWORD>(GetWindowLong(window, GWL_STYLE));
     RECT place{};
     GetWindowRect(window, &place);
-    if (std::wstring_view(className) == L"ComboBox") ReadComboBox(window, style, place);
+    std::vector<std::wstring> entries;
+    if (std::wstring_view(className) == kComboBox) {
+        ReadComboBox(window, style, place);
+        ReadEntries(window, entries);
+    }
     HWND page = GetParent(window);
     MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&place), 2);
-    controls.push_back(
-        {className, text, style, static_cast<DWORD>(GetWindowLong(window, GWL_EXSTYLE)), place});
+    controls.push_back({className, text, style,
+                        static_cast<DWORD>(GetWindowLong(window, GWL_EXSTYLE)), place, entries,
+                        SIZE{}});
+    if (std::wstring_view(className) == WC_LISTVIEW) ReadRows(window, controls.back());
 }
 
 void PumpMessages() {
@@ -97,6 +160,8 @@ HWND OpenBare(HWND main, const std::vector<Control>& controls) {
                            control.style, at.left, at.top, at.right - at.left, at.bottom - at.top,
                            window, nullptr, application.instance, nullptr);
         SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(application.normalFont), 0);
+        if (control.className == kComboBox) FillComboBox(child, control.entries);
+        if (control.className == WC_LISTVIEW) FillListView(child, control);
     }
     ShowWindow(window, SW_SHOW);
     UpdateWindow(window);
