@@ -235,7 +235,6 @@ void CalendarPage::CreateControls(HWND window) {
     // Above the lists, where it is seen, for the keys too.
     CreateTitleOrder(window, normalFont, kCalendarTitleOrder, kTop);
     optionLists_.Create(window, normalFont, CalendarOptionLists(), kPanel);
-    optionLists_.Place(window);
 }
 
 void CalendarPage::ShowTab(HWND window, int showCommand) {

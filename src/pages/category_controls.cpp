@@ -94,6 +94,26 @@ ControlPlace PlaceOf(const Spot& spot, SIZE room) {
     return {x, y, extent(Scale(spot.width), x, room.cx), extent(ScaleY(spot.height), y, room.cy)};
 }
 
+// The spot on this screen. By the screen: the input panel must not make an upright page a wide one.
+const Spot& SpotOf(UINT id, const Spot& upright, const Spot& wide) {
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    if (width > height) return wide;
+    for (const auto& control : kSquare) {
+        if (width == height && control.id == id) return control.spot;
+    }
+    return upright;
+}
+
+ControlPlace PlaceOf(const PageControl& control, SIZE room) {
+    return PlaceOf(SpotOf(control.id, control.upright, control.wide), room);
+}
+
+void PlaceMembers(HWND page, SIZE room) {
+    PlaceControl(Item(page, kMembers),
+                 PlaceOf(SpotOf(kMembers, kMembersUpright, kMembersWide), room));
+}
+
 // Rows that the page draws need a list that asks for their height when it is made.
 void PrepareOwnerDrawn(HWND list) {
     SendMessage(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
@@ -101,32 +121,21 @@ void PrepareOwnerDrawn(HWND list) {
 }
 } // namespace
 
-void CreateCategoryControls(HWND page, HFONT font) {
+void CreateCategoryControls(HWND page, HFONT font, SIZE room) {
     for (const PageControl& control : kControls) {
         const WideString text = control.text ? LanguageText(control.text) : WideString();
-        CreateHiddenControl(page, control.className, text.CStr(), control.style, control.id, {},
-                            font);
+        CreateHiddenControl(page, control.className, text.CStr(), control.style, control.id,
+                            PlaceOf(control, room), font);
     }
     PrepareOwnerDrawn(Item(page, kCategories));
     AddTickBoxes(CreateList(page, kMembers, font, kMemberHeight));
+    PlaceMembers(page, room);
 }
 
 void PlaceCategoryControls(HWND page, SIZE room) {
-    // By the screen: the input panel must not make an upright page a wide one.
-    const int screenWidth = GetSystemMetrics(SM_CXSCREEN);
-    const int screenHeight = GetSystemMetrics(SM_CYSCREEN);
-    const bool isWide = screenWidth > screenHeight;
-    const auto place = [page, room](UINT id, const Spot& spot) {
-        const ControlPlace to = PlaceOf(spot, room);
-        MoveWindow(Item(page, id), to.x, to.y, to.width, to.height, TRUE);
-    };
     for (const PageControl& control : kControls)
-        place(control.id, isWide ? control.wide : control.upright);
-    place(kMembers, isWide ? kMembersWide : kMembersUpright);
-    if (screenWidth == screenHeight) {
-        for (const auto& control : kSquare)
-            place(control.id, control.spot);
-    }
+        PlaceControl(Item(page, control.id), PlaceOf(control, room));
+    PlaceMembers(page, room);
     FitColumn(Item(page, kCategories));
     FitColumn(Item(page, kMembers));
 }

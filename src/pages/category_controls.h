@@ -25,8 +25,9 @@ inline constexpr UINT kFolderBrowse = 1216;
 
 } // namespace category_controls
 
-// Makes the controls, at no place yet, the lists without rows.
-void CreateCategoryControls(HWND page, HFONT font);
+// Makes the controls in a room from the page's upper left corner, in pixels, the lists without
+// rows.
+void CreateCategoryControls(HWND page, HFONT font, SIZE room);
 
-// Places them in a room from the page's upper left corner, in pixels.
+// Places them in another room.
 void PlaceCategoryControls(HWND page, SIZE room);

@@ -50,6 +50,7 @@ constexpr int kSampleWidth = 44;
 void AddCategories(HWND list) {
     for (const auto& category : categoryStore.All())
         AddRow(list, category->name.CStr());
+    FitColumn(list);
 }
 
 void TickAll(HWND list, bool isTicked) {
@@ -131,10 +132,9 @@ void ChooseIcon(HWND window) {
 CategoryPage::CategoryPage() : FormPage(kTables) {}
 
 void CategoryPage::CreateControls(HWND window) {
-    CreateCategoryControls(window, normalFont);
+    CreateCategoryControls(window, normalFont, Room(window));
     FormPage::CreateControls(window);
     FillLists(window);
-    Layout(window);
     ShowFilter(window, 0);
     EnableCategoryButtons(window);
 }
@@ -154,12 +154,15 @@ void CategoryPage::SaveValues(HWND window, WPARAM wParam) {
 
 LRESULT CategoryPage::Layout(HWND window) {
     FormPage::Layout(window);
-    RECT client{};
-    GetClientRect(window, &client);
+    PlaceCategoryControls(window, Room(window));
+    return 0;
+}
+
+SIZE CategoryPage::Room(HWND window) const {
+    const SIZE size = ClientSize(window);
     RECT strip{};
     GetWindowRect(tabStrip, &strip);
-    PlaceCategoryControls(window, {client.right, client.bottom - (strip.bottom - strip.top)});
-    return 0;
+    return {size.cx, size.cy - (strip.bottom - strip.top)};
 }
 
 LRESULT CategoryPage::OnMeasureItem(HWND, UINT, WPARAM, LPARAM lParam) {

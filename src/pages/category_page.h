@@ -22,6 +22,8 @@ class CategoryPage final : public FormPage {
     bool BrowsePath(HWND window, const FormRow& row, WideString& path) override;
 
   private:
+    // What the tab strip leaves of the page, in pixels.
+    [[nodiscard]] SIZE Room(HWND window) const;
     static void FillLists(HWND window);
     void DrawCategory(const DRAWITEMSTRUCT& row, const CategoryEntry& category) const;
     static void OnButton(HWND window, UINT id);

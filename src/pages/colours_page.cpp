@@ -79,25 +79,16 @@ UINT ColoursPage::GetTabTitleId(int index) const {
 }
 
 void ColoursPage::CreateControls(HWND window) {
-    const auto addButton = [&](UINT id, UINT text) {
-        CreateHiddenControl(window, L"BUTTON", LanguageText(text).CStr(), WS_TABSTOP, id, {},
-                            normalFont);
-    };
-    PlaceSampleList(window, kColours, normalFont);
-    for (const ColourItem& item : kItems)
-        AddRow(Item(window, kColours), LanguageText(item.label).CStr());
-    PlaceSampleButton(window, kEdit, LanguageText(IDS_COLOURS_EDIT).CStr(), normalFont);
-    HWND name = CreateHiddenControl(window, L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL,
-                                    kSchemeName, {}, normalFont);
-    SendMessage(name, EM_LIMITTEXT, kMaxSchemeName, 0);
-    addButton(kSaveScheme, IDS_COLOURS_SAVE);
-    PlaceSampleList(window, kSchemes, normalFont);
-    FillSchemeList(Item(window, kSchemes), normalFont);
-    addButton(kLoadScheme, IDS_COLOURS_LOAD);
-    addButton(kDeleteScheme, IDS_COLOURS_DELETE);
     Layout(window);
+    HWND colours = Item(window, kColours);
+    for (const ColourItem& item : kItems)
+        AddRow(colours, LanguageText(item.label).CStr());
+    FitColumn(colours);
+    SendMessage(Item(window, kSchemeName), EM_LIMITTEXT, kMaxSchemeName, 0);
+    FillSchemeList(Item(window, kSchemes), normalFont);
 }
 
+// Makes the controls, or moves them when they are there already.
 LRESULT ColoursPage::Layout(HWND window) {
     constexpr int kMargin = 10;
     constexpr int kNameTop = 50;
@@ -108,19 +99,20 @@ LRESULT ColoursPage::Layout(HWND window) {
     constexpr int kButtonWidth = 80;
     constexpr int kRowHeight = 20;
     constexpr int kButtonRow = 26;
-    RECT client{};
-    GetClientRect(window, &client);
-    const auto place = [window](UINT id, int left, int top, int width) {
-        PlaceControl(Item(window, id), {Scale(left), top, Scale(width), ScaleY(kRowHeight)});
+    const auto putButton = [&](UINT id, UINT text, int left, int top) {
+        PutControl(window, L"BUTTON", LanguageText(text).CStr(), WS_TABSTOP, id,
+                   {Scale(left), top, Scale(kButtonWidth), ScaleY(kRowHeight)}, normalFont);
     };
     PlaceSampleList(window, kColours, normalFont);
-    PlaceSampleButton(window, kEdit, L"", normalFont);
-    place(kSchemeName, kMargin, ScaleY(kNameTop), kNameWidth);
-    place(kSaveScheme, kSaveLeft, ScaleY(kNameTop), kButtonWidth);
+    PlaceSampleButton(window, kEdit, LanguageText(IDS_COLOURS_EDIT).CStr(), normalFont);
+    PutControl(window, L"EDIT", L"", WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL, kSchemeName,
+               {Scale(kMargin), ScaleY(kNameTop), Scale(kNameWidth), ScaleY(kRowHeight)},
+               normalFont);
+    putButton(kSaveScheme, IDS_COLOURS_SAVE, kSaveLeft, ScaleY(kNameTop));
     PlaceSampleList(window, kSchemes, normalFont, kButtonRow);
-    const int buttonsTop = client.bottom - ScaleY(kButtonsFromBottom);
-    place(kLoadScheme, kMargin, buttonsTop, kButtonWidth);
-    place(kDeleteScheme, kDeleteLeft, buttonsTop, kButtonWidth);
+    const int buttonsTop = ClientSize(window).cy - ScaleY(kButtonsFromBottom);
+    putButton(kLoadScheme, IDS_COLOURS_LOAD, kMargin, buttonsTop);
+    putButton(kDeleteScheme, IDS_COLOURS_DELETE, kDeleteLeft, buttonsTop);
     return 0;
 }
 

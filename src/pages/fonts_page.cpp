@@ -236,8 +236,7 @@ void FontsPage::ShowTab(HWND window, int showCommand) {
     UpdateWindow(window);
 }
 
-// --- Rows
-// -----------------------------------------------------------------------------------------
+// --- Rows ----------------------------------------------------------------------------------------
 
 void FontsPage::PlaceCustomRow(HWND window, const FormRow& row, RowLayout& layout) {
     if (row.tab != kItemsTab)
@@ -281,8 +280,7 @@ void FontsPage::SaveCustomRow(HWND window, const FormRow& row) {
     }
 }
 
-// --- The sample
-// -----------------------------------------------------------------------------------
+// --- The sample ----------------------------------------------------------------------------------
 
 LRESULT FontsPage::OnPaint(HWND window, UINT, WPARAM, LPARAM) {
     PAINTSTRUCT paint;
@@ -322,8 +320,7 @@ void FontsPage::PaintItem(HWND window, HDC dc) const {
              DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
 }
 
-// --- Commands
-// -------------------------------------------------------------------------------------
+// --- Commands ------------------------------------------------------------------------------------
 
 LRESULT FontsPage::OnCommand(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (LOWORD(wParam)) {

@@ -67,15 +67,12 @@ void FormPage::CreateControls(HWND window) {
 }
 
 LRESULT FormPage::Layout(HWND window) {
-    const SIZE size = ClientSize(window);
-    if (size.cx != placedFor_.cx || size.cy != placedFor_.cy)
-        PlaceRows(window, [window](const FormRow& row) { return HasRow(window, row); });
+    PlaceRows(window, [window](const FormRow& row) { return HasRow(window, row); });
     return 0;
 }
 
 template <typename Wanted>
 void FormPage::PlaceRows(HWND window, Wanted isWanted) {
-    placedFor_ = ClientSize(window);
     for (size_t tab = 0; tab < tables_.tabs.size(); ++tab) {
         RowLayout layout(window, normalFont, kTopMargin);
         for (const FormRow& row : tables_.rows) {

@@ -98,5 +98,4 @@ class FormPage : public SettingsPage {
     void OnPathButton(HWND window, const FormRow& row, UINT id);
 
     FormTables tables_;
-    SIZE placedFor_{}; // The page's size when the rows were placed, in pixels.
 };

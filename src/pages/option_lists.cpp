@@ -39,16 +39,12 @@ void OptionLists::Create(HWND page, HFONT font, std::span<const OptionList> list
     font_ = font;
     lists_ = lists;
     explainCommand_ = firstPanelId + OptionDetailPanel::kIdCount;
-    placedFor_ = {};
     shown_ = nullptr;
     refused_ = nullptr;
     panel_ = OptionDetailPanel(page, font, firstPanelId, kTop);
 }
 
 void OptionLists::Place(HWND page) {
-    const SIZE size = ClientSize(page);
-    if (size.cx == placedFor_.cx && size.cy == placedFor_.cy) return;
-    placedFor_ = size;
     for (const OptionList& list : lists_) {
         if (HWND control = Item(page, list.listId)) PlaceList(page, control);
     }

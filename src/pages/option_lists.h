@@ -59,7 +59,7 @@ class OptionLists {
   public:
     // The table must outlive the object. No control is made yet.
     void Create(HWND page, HFONT font, std::span<const OptionList> lists, UINT firstPanelId);
-    // Places everything on the page when its size has changed.
+    // Places anew what is there, after the page's size has changed.
     void Place(HWND page);
 
     // Makes a list that is about to be shown for the first time, hidden, and with the first of them
@@ -97,7 +97,6 @@ class OptionLists {
     std::span<const OptionList> lists_;
     OptionDetailPanel panel_;
     UINT explainCommand_ = 0;
-    SIZE placedFor_{};                // The page's size when all was placed, in pixels.
     const Option* shown_ = nullptr;   // The option on the panel.
     const Option* refused_ = nullptr; // Refused, and the user does not know why yet.
 };

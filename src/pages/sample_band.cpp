@@ -53,7 +53,7 @@ void PlaceSampleList(HWND page, UINT id, HFONT font, int roomBelow) {
     const int top = ScaleY(kListTop);
     // Above the input panel a screen turned to its side leaves no height at all.
     const int height = std::max<int>(size.cy - ScaleY(kListEnd + roomBelow) - top, 0);
-    MoveWindow(list, Scale(kMargin), top, size.cx - Scale(2 * kMargin), height, TRUE);
+    PlaceControl(list, {Scale(kMargin), top, size.cx - Scale(2 * kMargin), height});
     FitColumn(list);
 }
 

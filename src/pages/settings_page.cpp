@@ -6,6 +6,7 @@
 #include "shell/services/scaling.h"
 #include "shell/services/window_class.h"
 #include "ui/colour_box.h"
+#include "ui/controls.h"
 #include "ui/key_navigation.h"
 #include "ui/list_selection.h"
 #include "ui/tab_strip.h"
@@ -42,6 +43,7 @@ LRESULT OnCreate(SettingsPage& page, HWND window) {
     page.activateInfo.cbSize = sizeof(page.activateInfo);
     CreateEmptyMenuBar(page, window);
     CreateTabs(page, window);
+    page.placedFor = ClientSize(window);
     page.CreateControls(window);
     page.ShowTab(window, SW_SHOW);
     return 0;
@@ -63,6 +65,9 @@ LRESULT OnDestroy(SettingsPage& page, HWND window, WPARAM wParam) {
 }
 
 LRESULT OnPlaced(SettingsPage& page, HWND window) {
+    const SIZE size = ClientSize(window);
+    if (size.cx == page.placedFor.cx && size.cy == page.placedFor.cy) return 0;
+    page.placedFor = size;
     if (page.tabStrip) PlaceTabStrip(page.tabStrip);
     page.Layout(window);
     return 0;

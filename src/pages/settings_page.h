@@ -40,6 +40,7 @@ class SettingsPage {
     [[nodiscard]] virtual int GetTabCount() const = 0;
     // The text id of a tab's caption.
     [[nodiscard]] virtual UINT GetTabTitleId(int index) const = 0;
+    // Each control in its place; Layout() comes when the page's size has changed.
     virtual void CreateControls(HWND window) = 0;
     // Shows (SW_SHOW) or hides (SW_HIDE) the controls of the strip's current tab.
     virtual void ShowTab(HWND window, int showCommand) = 0;
@@ -67,6 +68,7 @@ class SettingsPage {
     HFONT normalFont = nullptr; // The fonts and the instance belong to the application.
     HFONT boldFont = nullptr;
     HINSTANCE hInstance = nullptr;
+    SIZE placedFor{-1, -1}; // The client area for which the controls stand where they do.
 
   protected:
     // The strip's selected tab; 0 for a page without tabs.

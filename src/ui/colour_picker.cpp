@@ -117,8 +117,7 @@ COLORREF ColourPicker::Pick(HWND owner) {
     return answer == IDOK ? choice_.Colour() : kPickCancelled;
 }
 
-// --- Controls
-// -------------------------------------------------------------------------------------
+// --- Controls ------------------------------------------------------------------------------------
 
 void ColourPicker::CreateControls(HWND window) {
     HFONT font = application.normalFont;
@@ -164,8 +163,7 @@ void ColourPicker::ShowTab(HWND window) const {
     ShowControlRange(window, kValuesTab[0], kValuesTab[1], isField ? SW_HIDE : SW_SHOW);
 }
 
-// --- Layout
-// ---------------------------------------------------------------------------------------
+// --- Layout --------------------------------------------------------------------------------------
 
 void ColourPicker::Layout(HWND window) {
     PlaceTabStrip(strip_);
@@ -256,8 +254,7 @@ void ColourPicker::LayOutValues(HWND window, int top) {
     Place(window, kHtml, htmlLeft + label, y, Scale(kHtmlWidth), height);
 }
 
-// --- The sample
-// -----------------------------------------------------------------------------------
+// --- The sample ----------------------------------------------------------------------------------
 
 void DrawArrow(HDC dc, const RECT& place) {
     const int middle = (place.top + place.bottom) / 2;
@@ -303,8 +300,7 @@ void ColourPicker::ShowChoice(HWND window, UINT source) {
     InvalidateRect(window, &samples, FALSE);
 }
 
-// --- Commands
-// -------------------------------------------------------------------------------------
+// --- Commands ------------------------------------------------------------------------------------
 
 void ColourPicker::OnNotify(HWND window, const NMHDR& header) {
     if (header.hwndFrom == strip_ && header.code == TCN_SELCHANGE) ShowTab(window);

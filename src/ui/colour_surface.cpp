@@ -160,8 +160,7 @@ LRESULT CALLBACK ColourSurface::WindowProc(HWND window, UINT message, WPARAM wPa
                 : DefWindowProc(window, message, wParam, lParam);
 }
 
-// --- The palette
-// ----------------------------------------------------------------------------------
+// --- The palette ---------------------------------------------------------------------------------
 
 namespace {
 constexpr int kColours = 10;
@@ -253,8 +252,7 @@ bool ColourPalette::Step(UINT key) {
     return true;
 }
 
-// --- The field
-// ------------------------------------------------------------------------------------
+// --- The field -----------------------------------------------------------------------------------
 
 void HueField::Render(HDC dc, SIZE size) {
     if (picture_ && size.cx == size_.cx && size.cy == size_.cy) return;
@@ -342,8 +340,7 @@ bool HueField::Step(UINT key) {
     return true;
 }
 
-// --- The lightness
-// --------------------------------------------------------------------------------
+// --- The lightness -------------------------------------------------------------------------------
 
 void LightnessBar::Paint(HDC dc, const RECT& area) {
     HueShade shade = choice_.Shade();
