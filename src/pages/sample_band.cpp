@@ -48,13 +48,14 @@ RECT SampleBand::Swatch() const {
 
 void PlaceSampleList(HWND page, UINT id, HFONT font, int roomBelow) {
     HWND list = Item(page, id);
-    if (!list) list = CreateList(page, id, font, kListRowHeight);
+    const bool isNew = !list;
+    if (isNew) list = CreateList(page, id, font, kListRowHeight);
     const SIZE size = ClientSize(page);
     const int top = ScaleY(kListTop);
     // Above the input panel a screen turned to its side leaves no height at all.
     const int height = std::max<int>(size.cy - ScaleY(kListEnd + roomBelow) - top, 0);
     PlaceControl(list, {Scale(kMargin), top, size.cx - Scale(2 * kMargin), height});
-    FitColumn(list);
+    if (!isNew) FitColumn(list); // A new one has yet to be filled.
 }
 
 void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font) {

@@ -25,7 +25,8 @@ class SampleBand {
 
 // Each makes its control, or moves it when it is there already.
 
-// The list; `roomBelow` units stay free between it and the tab strip.
+// The list, whose column is to be fitted once it is filled; `roomBelow` units stay free between it
+// and the tab strip.
 void PlaceSampleList(HWND page, UINT id, HFONT font, int roomBelow = 0);
 // The button beside the swatch.
 void PlaceSampleButton(HWND page, UINT id, const wchar_t* text, HFONT font);
