@@ -9,6 +9,7 @@
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "shell/services/text_size.h"
+#include "ui/controls.h"
 
 namespace {
 constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_ICON | LVS_SINGLESEL |
@@ -19,12 +20,6 @@ constexpr DWORD kListExtendedStyle = kNoHorizontalScrollBar | LVS_EX_ONECLICKACT
 constexpr COLORREF kImageMask = RGB(0, 255, 0);
 constexpr int kImageSize = 32;
 constexpr int kCaptionLimit = 512;
-
-RECT ClientOf(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return client;
-}
 
 void AddColumn(HWND list, int width) {
     wchar_t title[] = L"List Column";
@@ -37,14 +32,14 @@ void AddColumn(HWND list, int width) {
 } // namespace
 
 void PageList::Create(HWND parent) {
-    const RECT client = ClientOf(parent);
-    window_ = CreateWindowEx(0, WC_LISTVIEW, L"", kListStyle, 0, 0, client.right, client.bottom,
+    placedFor_ = ClientSize(parent);
+    window_ = CreateWindowEx(0, WC_LISTVIEW, L"", kListStyle, 0, 0, placedFor_.cx, placedFor_.cy,
                              parent, nullptr, application.instance, nullptr);
     if (!window_) return;
     SendMessage(window_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, kListExtendedStyle);
     images_ = LoadImageStrip(IDB_PAGE_LIST, Scale(kImageSize, true), kImageMask);
     SendMessage(window_, LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Get()));
-    AddColumn(window_, client.right);
+    AddColumn(window_, placedFor_.cx);
     SpaceIcons();
     // Drawn once, not for each row.
     SendMessage(window_, WM_SETREDRAW, FALSE, 0);
@@ -73,25 +68,27 @@ void PageList::AddRows() {
 void PageList::SpaceIcons() const {
     constexpr int kThreeColumns = 240; // Units; scaled as one, as a third would be rounded up.
     // Not the list's own client area, which may be less a scroll bar that this makes superfluous.
-    const RECT client = ClientOf(GetParent(window_));
-    const int columns = std::max(1, 3 * static_cast<int>(client.right) / Scale(kThreeColumns));
+    const SIZE room = placedFor_;
+    const int columns = std::max(1, 3 * static_cast<int>(room.cx) / Scale(kThreeColumns));
     const int rows = (kPageCount + columns - 1) / columns;
-    const int rowHeight = client.bottom / rows;
+    const int rowHeight = room.cy / rows;
     // Where a caption cannot have a second line it must be narrow.
     const bool isLow =
         rowHeight < Scale(kImageSize, true) + 2 * FontMeasure(application.boldFont).LineHeight();
     HFONT font = isLow ? application.normalFont : application.boldFont;
     SendMessage(window_, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-    SendMessage(window_, LVM_SETICONSPACING, 0, MAKELPARAM(client.right / columns, rowHeight));
+    SendMessage(window_, LVM_SETICONSPACING, 0, MAKELPARAM(room.cx / columns, rowHeight));
     SendMessage(window_, LVM_ARRANGE, LVA_DEFAULT, 0);
 }
 
 void PageList::Place() {
     if (!window_) return;
-    const RECT client = ClientOf(GetParent(window_));
+    const SIZE size = ClientSize(GetParent(window_));
+    if (size.cx == placedFor_.cx && size.cy == placedFor_.cy) return;
+    placedFor_ = size;
     // First the spacing: rows that do not fit for a moment would bring a scroll bar that stays.
     SpaceIcons();
-    MoveWindow(window_, 0, 0, client.right, client.bottom, FALSE);
+    MoveWindow(window_, 0, 0, size.cx, size.cy, FALSE);
     SendMessage(window_, LVM_ARRANGE, LVA_DEFAULT, 0);
 }
 

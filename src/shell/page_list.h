@@ -12,7 +12,7 @@ class PageList {
     // from the application's libraries; without them they are missing.
     void Create(HWND parent);
     void Destroy();
-    // Fills the parent's client area again after it moved or changed its size.
+    // Fills the parent's client area again when its size has changed.
     void Place();
 
     [[nodiscard]] HWND Window() const { return window_; }
@@ -26,4 +26,5 @@ class PageList {
 
     HWND window_ = nullptr;
     UniqueImageList images_;
+    SIZE placedFor_{}; // The parent's client area that the list fills.
 };
