@@ -1,7 +1,5 @@
 #include "pages/add_plugin_dialog.h"
 
-#include <aygshell.h>
-
 #include <vector>
 
 #include "resource_ids.h"
@@ -11,6 +9,7 @@
 #include "shell/services/scaling.h"
 #include "shell/services/today_screen.h"
 #include "ui/controls.h"
+#include "ui/menu_bar.h"
 #include "ui/messages.h"
 #include "ui/template_dialog.h"
 
@@ -66,12 +65,7 @@ void AddPluginDialog::Layout(HWND dialog) {
 
 void AddPluginDialog::OnInit(HWND dialog) {
     FillScreen(dialog, IDS_TABS_ADD_TITLE);
-    SHMENUBARINFO bar{};
-    bar.cbSize = sizeof(bar);
-    bar.hwndParent = dialog;
-    bar.dwFlags = SHCMBF_EMPTYBAR;
-    bar.hInstRes = application.instance;
-    SHCreateMenuBar(&bar); // Belongs to the dialog and goes with it.
+    CreateEmptyMenuBar(dialog);
     SetDlgItemText(dialog, IDC_ADD_PLUGIN_LABEL, LanguageText(IDS_TABS_PLUGIN).CStr());
     SetDlgItemText(dialog, IDC_ADD_PLUGIN_HELP, LanguageText(IDS_TABS_PLUGIN_HELP).CStr());
     SetDlgItemText(dialog, IDCANCEL, LanguageText(IDS_CANCEL).CStr());

@@ -1,36 +1,23 @@
 #include "pages/font_style_dialog.h"
 
-#include <aygshell.h>
-#include <commctrl.h>
-
 #include "pages/font_size_list.h"
 #include "resource_ids.h"
 #include "shell/services/application.h"
 #include "shell/services/handles.h"
-#include "shell/services/image_strip.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/colour_box.h"
 #include "ui/colour_picker.h"
 #include "ui/controls.h"
+#include "ui/menu_bar.h"
+#include "ui/row_layout.h"
 #include "ui/template_dialog.h"
 
 namespace {
 constexpr LONG kBold = 700;
 constexpr LONG kRegular = 100;
 
-constexpr int kBarImageSize = 16;
-constexpr COLORREF kBarImageMask = 0xC6CFDE;
-
-// Measures in units: rows from the top, and what stands in them from an edge of the dialog.
-constexpr int kTop = 8;
-constexpr int kRowPitch = 24;
-constexpr int kRowHeight = 20;
-constexpr int kLabelDrop = 3; // A label stands this much lower than what it names.
-constexpr int kColourRow = 5;
-constexpr int kMargin = 10;
-constexpr int kSwatchFromRight = 100;
-constexpr int kSwatchWidth = 40;
+constexpr int kRowHeight = 20; // In units.
 
 struct TextOfControl {
     UINT control;
@@ -61,48 +48,40 @@ class FontStyleDialog final : private TemplateDialog {
     void LoadValues(HWND dialog) const;
     void TakeStyle(HWND dialog) const;
     void SetColour(HWND dialog);
+    [[nodiscard]] RECT SwatchPlace(HWND dialog) const;
 
     LOGFONT& font_;
     COLORREF& colour_;
     HWND bar_ = nullptr;
     UniqueImageList barImages_;
+    int colourTop_ = 0; // The upper edge of the colour's row, in pixels.
 };
 
-// A row's upper edge in pixels.
-int RowTop(int row) {
-    return ScaleY(kTop + row * kRowPitch);
-}
-
-RECT SwatchPlace(HWND dialog) {
-    const int left = ClientSize(dialog).cx - Scale(kSwatchFromRight);
-    const int top = RowTop(kColourRow);
-    return {left, top, left + Scale(kSwatchWidth), top + ScaleY(kRowHeight)};
+RECT FontStyleDialog::SwatchPlace(HWND dialog) const {
+    constexpr int kFromRight = 100;
+    constexpr int kWidth = 40;
+    const int left = ClientSize(dialog).cx - Scale(kFromRight);
+    return {left, colourTop_, left + Scale(kWidth), colourTop_ + ScaleY(kRowHeight)};
 }
 
 void FontStyleDialog::Layout(HWND dialog) {
-    constexpr int kListFromRight = 135;
-    constexpr int kListWidth = 125;
-    constexpr int kListDropHeight = 100;
-    constexpr int kSizeLabelEnd = 140;
-    constexpr int kColourLabelEnd = 110;
+    constexpr int kTop = 8;
+    constexpr int kLabelDrop = 3; // A label stands this much lower than what it names.
+    constexpr int kLabelEnd = 110;
     constexpr int kSetFromRight = 50;
     constexpr int kSetWidth = 40;
+    // The template has made the controls; the rows move them.
+    RowLayout rows(dialog, application.normalFont, kTop);
+    rows.AddCombo(IDC_FONT_SIZE_LABEL, L"", IDC_FONT_SIZE);
+    for (const UINT box : {IDC_FONT_BOLD, IDC_FONT_ITALIC, IDC_FONT_UNDERLINE, IDC_FONT_STRIKE_OUT})
+        rows.AddCheck(box, L"");
+    colourTop_ = rows.Y();
     const int width = ClientSize(dialog).cx;
     const int height = ScaleY(kRowHeight);
-    const auto place = [&](UINT id, int left, int top, int itemWidth, int itemHeight) {
-        MoveWindow(Item(dialog, id), left, top, itemWidth, itemHeight, TRUE);
-    };
-    int row = 0;
-    place(IDC_FONT_SIZE_LABEL, 0, RowTop(row) + ScaleY(kLabelDrop), width - Scale(kSizeLabelEnd),
-          height);
-    place(IDC_FONT_SIZE, width - Scale(kListFromRight), RowTop(row), Scale(kListWidth),
-          ScaleY(kListDropHeight));
-    for (const UINT box : {IDC_FONT_BOLD, IDC_FONT_ITALIC, IDC_FONT_UNDERLINE, IDC_FONT_STRIKE_OUT})
-        place(box, Scale(kMargin), RowTop(++row), width - Scale(2 * kMargin), height);
-    place(IDC_FONT_COLOUR_LABEL, 0, RowTop(kColourRow) + ScaleY(kLabelDrop),
-          width - Scale(kColourLabelEnd), height);
-    place(IDC_FONT_SET_COLOUR, width - Scale(kSetFromRight), RowTop(kColourRow), Scale(kSetWidth),
-          height);
+    PlaceControl(Item(dialog, IDC_FONT_COLOUR_LABEL),
+                 {0, colourTop_ + ScaleY(kLabelDrop), width - Scale(kLabelEnd), height});
+    PlaceControl(Item(dialog, IDC_FONT_SET_COLOUR),
+                 {width - Scale(kSetFromRight), colourTop_, Scale(kSetWidth), height});
     InvalidateRect(dialog, nullptr, TRUE);
 }
 
@@ -115,15 +94,9 @@ void FontStyleDialog::OnInit(HWND dialog) {
 }
 
 void FontStyleDialog::CreateBar(HWND dialog) {
-    SHMENUBARINFO info{};
-    info.cbSize = sizeof(info);
-    info.hwndParent = dialog;
-    info.nToolBarId = IDR_FONT_STYLE_BAR;
-    info.hInstRes = application.instance;
-    if (!SHCreateMenuBar(&info)) return;
-    bar_ = info.hwndMB;
-    barImages_ = LoadImageStrip(IDB_MENU_BAR, Scale(kBarImageSize), kBarImageMask);
-    SendMessage(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(barImages_.Get()));
+    bar_ = CreateButtonBar(dialog, IDR_FONT_STYLE_BAR);
+    if (!bar_) return;
+    barImages_ = SetMenuBarImages(bar_);
 }
 
 void FontStyleDialog::LoadValues(HWND dialog) const {

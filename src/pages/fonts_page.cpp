@@ -1,6 +1,5 @@
 #include "pages/fonts_page.h"
 
-#include <aygshell.h>
 #include <commctrl.h>
 
 #include <iterator>
@@ -11,12 +10,12 @@
 #include "preview/text_style.h"
 #include "resource_ids.h"
 #include "settings/font_catalogue.h"
-#include "shell/services/application.h"
 #include "shell/services/handles.h"
 #include "shell/services/resource_strings.h"
 #include "shell/services/scaling.h"
 #include "ui/colour_picker.h"
 #include "ui/list_items.h"
+#include "ui/menu_bar.h"
 #include "ui/messages.h"
 #include "ui/tab_strip.h"
 
@@ -211,15 +210,10 @@ void FontsPage::CreateControls(HWND window) {
 
 // The empty bar goes when there is another to take its place.
 void FontsPage::CreateOwnMenuBar(HWND window) {
-    SHMENUBARINFO info{};
-    info.cbSize = sizeof(info);
-    info.hwndParent = window;
-    info.dwFlags = SHCMBF_HMENU;
-    info.nToolBarId = IDM_FONTS;
-    info.hInstRes = application.languageLibrary;
-    if (!application.languageLibrary || !SHCreateMenuBar(&info)) return;
+    HWND ownBar = CreateMenuBar(window, IDM_FONTS);
+    if (!ownBar) return;
     if (menuBar) DestroyWindow(menuBar);
-    menuBar = info.hwndMB;
+    menuBar = ownBar;
 }
 
 // A tab takes a new caption only as a new tab.

@@ -9,6 +9,7 @@
 #include "ui/controls.h"
 #include "ui/key_navigation.h"
 #include "ui/list_selection.h"
+#include "ui/menu_bar.h"
 #include "ui/tab_strip.h"
 
 namespace {
@@ -28,20 +29,11 @@ void CreateTabs(SettingsPage& page, HWND window) {
         InsertTab(page.tabStrip, i, LanguageText(page.GetTabTitleId(i)).CStr());
 }
 
-void CreateEmptyMenuBar(SettingsPage& page, HWND window) {
-    SHMENUBARINFO info{};
-    info.cbSize = sizeof(info);
-    info.hwndParent = window;
-    info.dwFlags = SHCMBF_EMPTYBAR;
-    info.hInstRes = page.hInstance;
-    page.menuBar = SHCreateMenuBar(&info) ? info.hwndMB : nullptr;
-}
-
 LRESULT OnCreate(SettingsPage& page, HWND window) {
     page.hwnd = window;
     page.activateInfo = {};
     page.activateInfo.cbSize = sizeof(page.activateInfo);
-    CreateEmptyMenuBar(page, window);
+    page.menuBar = CreateEmptyMenuBar(window);
     CreateTabs(page, window);
     page.placedFor = ClientSize(window);
     page.CreateControls(window);

@@ -4,16 +4,9 @@
 #include <commctrl.h>
 
 #include "resource_ids.h"
-#include "shell/services/application.h"
-#include "shell/services/image_strip.h"
-#include "shell/services/scaling.h"
+#include "ui/menu_bar.h"
 
 namespace {
-constexpr int kImageSize = 16;
-constexpr COLORREF kImageMask = 0xC6CFDE;
-constexpr int kCancelImage = 0;
-constexpr int kOkImage = 1;
-
 TBBUTTON IconButton(int image, int command) {
     TBBUTTON button{};
     button.iBitmap = image;
@@ -24,14 +17,8 @@ TBBUTTON IconButton(int image, int command) {
 } // namespace
 
 void MainMenuBar::Create(HWND parent) {
-    SHMENUBARINFO info{};
-    info.cbSize = sizeof(info);
-    info.hwndParent = parent;
-    info.dwFlags = SHCMBF_HMENU;
-    info.nToolBarId = IDM_MAIN;
-    info.hInstRes = application.languageLibrary;
-    if (!SHCreateMenuBar(&info)) return;
-    window_ = info.hwndMB;
+    window_ = CreateMenuBar(parent, IDM_MAIN);
+    if (!window_) return;
     TakeOutDashboardItems();
     AddButtons();
 }
@@ -46,8 +33,7 @@ void MainMenuBar::TakeOutDashboardItems() const {
 }
 
 void MainMenuBar::AddButtons() {
-    images_ = LoadImageStrip(IDB_MENU_BAR, Scale(kImageSize), kImageMask);
-    SendMessage(window_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_.Get()));
+    images_ = SetMenuBarImages(window_);
     TBBUTTON buttons[] = {IconButton(kOkImage, IDOK), IconButton(kCancelImage, IDCANCEL)};
     SendMessage(window_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SendMessage(window_, TB_ADDBUTTONS, 2, reinterpret_cast<LPARAM>(buttons));

@@ -4,6 +4,7 @@
 #include "shell/services/window_class.h"
 #include "ui/controls.h"
 #include "ui/list_selection.h"
+#include "ui/menu_bar.h"
 
 namespace {
 // The navigation bar shows the title of the program's main window, or that of a dialog which owns
@@ -67,12 +68,7 @@ int ModalWindow::Run(HWND owner, const wchar_t* className, const wchar_t* title)
 void ModalWindow::OnCreate(HWND window) {
     activateInfo_ = {};
     activateInfo_.cbSize = sizeof(activateInfo_);
-    SHMENUBARINFO info{};
-    info.cbSize = sizeof(info);
-    info.hwndParent = window;
-    info.dwFlags = SHCMBF_EMPTYBAR;
-    info.hInstRes = application.instance;
-    SHCreateMenuBar(&info); // The bar belongs to the window and goes with it.
+    CreateEmptyMenuBar(window);
     CreateControls(window);
     Layout(window);
 }
