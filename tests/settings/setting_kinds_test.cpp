@@ -4,14 +4,12 @@
 
 #include "settings/font_setting.h"
 #include "settings/setting.h"
-#include "settings/system_colour.h"
 #include "tests/settings/store_fixture.h"
 
 namespace {
 
 constexpr wchar_t kTasks[] = L"Software\\Teskel\\Orvane\\Tasks";
 constexpr wchar_t kFonts[] = L"Software\\Teskel\\Orvane\\Fonts";
-constexpr wchar_t kColours[] = L"SOFTWARE\\Microsoft\\Color";
 
 class SettingKinds : public StoreFixture {};
 
@@ -105,23 +103,6 @@ TEST_F(SettingKinds, FontsAreSixNumbersAndALogFont) {
     EXPECT_EQ(font.logFont.lfFaceName, longFace.substr(0, LF_FACESIZE - 1));
     font.Set(nullptr, 0xFFFFFFFF);
     EXPECT_FALSE(font.weight.changed) << "the colour alone was set";
-}
-
-TEST_F(SettingKinds, SystemColoursComeFromTheirOwnValueThenTheScheme) {
-    EXPECT_EQ(SystemColour(4, 0x123456), 0x123456U);
-    EXPECT_FALSE(HasKey(HKEY_LOCAL_MACHINE, kColours)) << "asking created the key";
-    BYTE scheme[24];
-    for (size_t at = 0; at < sizeof scheme; ++at)
-        scheme[at] = static_cast<BYTE>(at);
-    SetValue(HKEY_LOCAL_MACHINE, kColours, L"SHColor", REG_BINARY, scheme, sizeof scheme);
-    EXPECT_EQ(SystemColour(0, 0x123456), 0x020100U);
-    EXPECT_EQ(SystemColour(4, 0x123456), 0x121110U);
-    EXPECT_EQ(SystemColour(5, 0x123456), 0x123456U) << "the last entry is not used";
-
-    SetValue(HKEY_LOCAL_MACHINE, kColours, L"4", REG_BINARY, "\xAA\xBB\xCC\xDD\xEE", 5);
-    EXPECT_EQ(SystemColour(4, 0x123456), 0xCCBBAAU);
-    SetValue(HKEY_LOCAL_MACHINE, kColours, L"4", REG_BINARY, "\xAA", 1);
-    EXPECT_EQ(SystemColour(4, 0x123456), 0x0000AAU);
 }
 
 } // namespace

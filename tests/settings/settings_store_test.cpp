@@ -137,23 +137,25 @@ TEST_F(SettingsStoreTest, ClockAndWeekFollowTheLocale) {
         SetLocaleInfoW(LOCALE_USER_DEFAULT, kFields[field], before[field]);
 }
 
-TEST_F(SettingsStoreTest, SystemColoursDependOnTheVersion) {
+TEST_F(SettingsStoreTest, SystemColoursComeFromTheirOwnValueThenTheScheme) {
     const COLORREF fallbacks[] = {0x000000, 0xEF8E73, 0x9C4D2C, 0xFFFFFF, 0x9C4D2C, 0xFFFFFF};
-    const COLORREF entries[] = {4, 6, 8, 9, 34, 35};
-    BYTE scheme[40 * 4];
-    for (size_t at = 0; at < sizeof scheme; ++at)
-        scheme[at] = static_cast<BYTE>(at / 4);
     const auto store = LoadStore();
     EXPECT_TRUE(std::ranges::equal(store->systemColours, fallbacks));
+    EXPECT_FALSE(HasKey(HKEY_LOCAL_MACHINE, kColours)) << "asking created the key";
+
+    BYTE scheme[36 * 4]; // The last entry, colour 35, is not used.
+    for (size_t at = 0; at < sizeof scheme; ++at)
+        scheme[at] = static_cast<BYTE>(at);
     SetValue(HKEY_LOCAL_MACHINE, kColours, L"SHColor", REG_BINARY, scheme, sizeof scheme);
+    SetValue(HKEY_LOCAL_MACHINE, kColours, L"6", REG_BINARY, "\xAA\xBB\xCC\xDD\xEE", 5);
+    SetValue(HKEY_LOCAL_MACHINE, kColours, L"8", REG_BINARY, "\xAA", 1);
     for (const DWORD minor : {20U, 21U}) {
         StandInSetOsVersion(4, minor);
         LoadInto(*store);
-        for (size_t at = 0; at < 6; ++at) {
-            const bool isFixed = minor == 20 && at >= 4;
-            EXPECT_EQ(store->systemColours[at], isFixed ? fallbacks[at] : entries[at] * 0x010101)
-                << "4." << minor << " colour " << at;
-        }
+        const COLORREF colour34 = minor == 20 ? fallbacks[4] : 0x8A8988;
+        const COLORREF expected[] = {0x121110, 0xCCBBAA, 0x0000AA,
+                                     0x262524, colour34, fallbacks[5]};
+        EXPECT_TRUE(std::ranges::equal(store->systemColours, expected)) << "4." << minor;
     }
 }
 
