@@ -94,10 +94,10 @@ TEST_F(SettingKinds, FontsAreSixNumbersAndALogFont) {
         EXPECT_EQ(GetUserNumber(kFonts, name), number) << name;
 
     const std::wstring longFace(100, L'f');
-    SetUserNumber(kFonts, L"FontXlfItalic", 0x1FF);
+    SetUserNumber(kFonts, L"FontXlfItalic", 0x1FE);
     font.Load(nullptr, kDefaults, longFace.c_str(), false, L"FontX", SettingGroup::Fonts);
     EXPECT_EQ(font.logFont.lfHeight, -20);
-    EXPECT_EQ(font.logFont.lfItalic, 0xFF);
+    EXPECT_EQ(font.logFont.lfItalic, 0xFE);
     EXPECT_EQ(font.logFont.lfUnderline, 255);
     EXPECT_EQ(font.logFont.lfQuality, 0);
     EXPECT_EQ(font.logFont.lfFaceName, longFace.substr(0, LF_FACESIZE - 1));
