@@ -118,6 +118,14 @@ TEST(LineReader, ReadsBytesThatAreNoUtf8AsLatin) {
             L"\xFC\x80 \xFC \x20AC \xD800 \xC0\x80 \xF8 \xE0\x80\x80 \xF4\x90\x80\x80 \xE2\x82"}));
 }
 
+TEST(LineWriter, WritesWhatTheReaderReads) {
+    // The first and the last of each size, and half of a pair.
+    const std::wstring text = L"\x7F\x80\x7FF\x800\xFFFF\xD83D\xDE00\xDBFF\xDFFF\xD83D";
+    MemorySink sink;
+    LineWriter(sink).Text(L"n", text);
+    EXPECT_EQ(LinesOf(sink.content)[0], L"\"n\"=\"" + text + L"\"\n");
+}
+
 TEST(LineWriter, WritesTheGrammar) {
     MemorySink sink;
     {
