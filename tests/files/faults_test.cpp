@@ -38,9 +38,9 @@ class FaultsTest : public FolderFixture {
 
     // Does `work` over and over, each time with another one of its calls failing (from 1; at first,
     // as 0, with none), and then checks what came of it.
-    void FailEachCall(ULONG calls, const std::function<void()>& prepare,
-                      const std::function<void()>& work,
-                      const std::function<void(ULONG nth)>& check) {
+    void FailEachCall(
+        ULONG calls, const std::function<void()>& work, const std::function<void(ULONG nth)>& check,
+        const std::function<void()>& prepare = [] {}) {
         ULONG count = 0;
         for (ULONG nth = 0; nth <= count; ++nth) {
             prepare();
@@ -73,13 +73,11 @@ class FaultsTest : public FolderFixture {
 
 // The values of one key, or one value, may be the defaults; all others are those stored.
 TEST_F(FaultsTest, LoadingGivesWhatItCanRead) {
-    ForEachRow([](const SettingTable&, const SettingRow& row) {
-        std::visit(SetOther{settingsStore}, row.what);
-    });
+    SetAllToOthers(settingsStore);
     settingsStore.Save();
     const auto whole = LoadStore();
     FailEachCall(
-        kAllCalls, [] {},
+        kAllCalls,
         [this] {
             LoadInto(settingsStore);
             store_.LoadCategoryStore();
@@ -103,9 +101,7 @@ TEST_F(FaultsTest, LoadingGivesWhatItCanRead) {
 TEST_F(FaultsTest, SavingDropsWhatItCannotWrite) {
     const auto prepare = [] {
         RegDeleteKey(HKEY_CURRENT_USER, kRoot);
-        ForEachRow([](const SettingTable&, const SettingRow& row) {
-            std::visit(SetOther{settingsStore}, row.what);
-        });
+        SetAllToOthers(settingsStore);
     };
     RegistryTree whole;
     const auto work = [this] {
@@ -113,7 +109,7 @@ TEST_F(FaultsTest, SavingDropsWhatItCannotWrite) {
         store_.SaveCategoryRegistry();
         store_.SaveFilterFile();
     };
-    FailEachCall(kAllCalls, prepare, work, [&](ULONG nth) {
+    const auto check = [&](ULONG nth) {
         const RegistryTree saved = GetTree(HKEY_CURRENT_USER);
         if (nth == 0) whole = saved;
         std::set<std::wstring> keys;
@@ -124,24 +120,22 @@ TEST_F(FaultsTest, SavingDropsWhatItCannotWrite) {
             ++missing;
         }
         EXPECT_TRUE(missing <= 1 || keys.size() <= 2) << nth;
-    });
+    };
+    FailEachCall(kAllCalls, work, check, prepare);
 }
 
 TEST_F(FaultsTest, ExportingKeepsTheOldBackupUntilTheNewOneIsComplete) {
     Export();
     const std::string complete = *folder_->Read(L"Backup.ovsb");
-    const auto check = [&](ULONG nth) {
-        const auto read = folder_->Read(L"Backup.ovsb");
-        ASSERT_TRUE(read.has_value()) << nth;
-        EXPECT_EQ(read->substr(0, 4), "\r\n[S") << nth;
-        EXPECT_TRUE(read->ends_with("\"Index\"=dword:32\r\n\"VisibleState\"=dword:1\r\n"
-                                    "\"IncludeUncategorized\"=dword:0\r\n"))
-            << nth;
-    };
     FailEachCall(
-        kAllCalls & kRegistryCalls, [] {}, [this] { Export(); }, check);
-    FailEachCall(
-        kFileCalls, [] {}, [this] { Export(); }, check);
+        kAllCalls, [this] { Export(); },
+        [this](ULONG nth) {
+            const std::string read = folder_->Read(L"Backup.ovsb").value_or("");
+            EXPECT_TRUE(read.starts_with("\r\n[S")) << nth;
+            EXPECT_TRUE(read.ends_with("\"Index\"=dword:32\r\n\"VisibleState\"=dword:1\r\n"
+                                       "\"IncludeUncategorized\"=dword:0\r\n"))
+                << nth;
+        });
     EXPECT_EQ(folder_->Read(L"Backup.ovsb"), complete);
 }
 
@@ -152,11 +146,11 @@ TEST_F(FaultsTest, ImportingFailsForKeysAndTheFirstLineAlone) {
     bool imported = false;
     const auto work = [&] { imported = Import(); };
     const auto fails = [&](ULONG nth) { EXPECT_EQ(imported, nth == 0) << nth; };
-    FailEachCall(kRegCreateKeyCalls, prepare, work, fails);
-    FailEachCall(kCreateFileCalls | kSetFilePointerCalls, prepare, work, fails);
-    FailEachCall(kAllCalls & kRegistryCalls & ~kRegCreateKeyCalls, prepare, work,
-                 [&](ULONG nth) { EXPECT_TRUE(imported) << nth; });
-    FailEachCall(kReadFileCalls, prepare, work, [&](ULONG nth) { EXPECT_EQ(imported, nth != 1); });
+    FailEachCall(kRegCreateKeyCalls, work, fails, prepare);
+    FailEachCall(kCreateFileCalls | kSetFilePointerCalls, work, fails, prepare);
+    const auto succeeds = [&](ULONG nth) { EXPECT_TRUE(imported) << nth; };
+    FailEachCall(kAllCalls & kRegistryCalls & ~kRegCreateKeyCalls, work, succeeds, prepare);
+    FailEachCall(kReadFileCalls, work, [&](ULONG nth) { EXPECT_EQ(imported, nth != 1); });
     EXPECT_TRUE(Import());
     EXPECT_EQ(GetTree(HKEY_CURRENT_USER), before);
 }
@@ -164,22 +158,20 @@ TEST_F(FaultsTest, ImportingFailsForKeysAndTheFirstLineAlone) {
 TEST_F(FaultsTest, SchemesAreWholeOrNotThere) {
     const auto write = [this] { WriteScheme(L"New", store_); };
     FailEachCall(
-        kFileCalls, [] { DeleteSchemeFile(L"New.scm"); }, write,
+        kFileCalls, write,
         [this](ULONG nth) {
             const auto read = folder_->Read(L"Schemes\\New.scm");
             EXPECT_TRUE(!read || read->ends_with("\"Color\"=dword:-1\r\n")) << nth;
             EXPECT_TRUE(read || nth != 0);
-        });
+        },
+        [] { DeleteSchemeFile(L"New.scm"); });
     write();
     SchemeOutcome outcome{};
     const auto read = [&] { outcome = ReadScheme(L"New.scm", store_); };
-    FailEachCall(
-        kCreateFileCalls, [] {}, read,
-        [&](ULONG nth) {
-            EXPECT_EQ(outcome, nth == 0 ? SchemeOutcome::Read : SchemeOutcome::CannotOpen);
-        });
-    FailEachCall(
-        kAllCalls, [] {}, read, [](ULONG) {});
+    FailEachCall(kCreateFileCalls, read, [&](ULONG nth) {
+        EXPECT_EQ(outcome, nth == 0 ? SchemeOutcome::Read : SchemeOutcome::CannotOpen);
+    });
+    FailEachCall(kAllCalls, read, [](ULONG) {});
     read();
     EXPECT_EQ(outcome, SchemeOutcome::Read);
 }
@@ -198,9 +190,7 @@ TEST(BatteryTest, DISABLED_SavesUntilItRunsOut) {
     ShareRegistry(path);
     HMODULE library = nullptr;
     settingsStore.Load(library);
-    ForEachRow([](const SettingTable&, const SettingRow& row) {
-        std::visit(SetOther{settingsStore}, row.what);
-    });
+    SetAllToOthers(settingsStore);
     StandInExitAtCall(kRegSetValueCalls | kRegDeleteKeyCalls, std::stoul(nth));
     settingsStore.Save();
     FAIL() << "it goes on without power";
@@ -219,9 +209,7 @@ TEST_F(FaultsTest, WhatAnInterruptedSaveLeavesLoads) {
     constexpr ULONG kWrites = 380; // Fewer than a whole save makes.
     const auto before = LoadStore();
     const auto changed = LoadStore();
-    ForEachRow([&](const SettingTable&, const SettingRow& row) {
-        std::visit(SetOther{*changed}, row.what);
-    });
+    SetAllToOthers(*changed);
     for (ULONG nth = 1; nth < kWrites; nth += 10) {
         ASSERT_EQ(RunOut(nth), kStandInExitCode) << nth;
         const auto store = LoadStore();

@@ -52,18 +52,15 @@ TEST_F(IconCatalogueTest, SortsTheIconsOfAllFolders) {
     EXPECT_EQ(catalogue_.Find(L""), std::nullopt);
 }
 
+// Ten thousand icons: a folder of 250, many times over.
 TEST_F(IconCatalogueTest, IsQuickWithThousandsOfIcons) {
-    constexpr size_t kFiles = 250;
-    constexpr size_t kTimes = 40; // As fast to find as ten thousand files, and sooner made.
-    for (size_t file = 0; file < kFiles; ++file)
+    for (int file = 0; file < 250; ++file)
         folder_->Write(L"Icons\\icon " + std::to_wstring(file) + L".bmp", "");
     const DWORD start = GetTickCount();
-    for (size_t time = 0; time < kTimes; ++time)
+    for (int time = 0; time < 40; ++time)
         catalogue_.AddIconFolder(folder_->PathOf(L"Icons").c_str());
     EXPECT_LT(GetTickCount() - start, 5000U);
-    ASSERT_EQ(catalogue_.Count(), kFiles * kTimes);
-    for (size_t index = 1; index < catalogue_.Count(); ++index)
-        ASSERT_LE(lstrcmpi(catalogue_.Name(index - 1).CStr(), catalogue_.Name(index).CStr()), 0);
+    ASSERT_EQ(catalogue_.Count(), 10000U);
 }
 
 } // namespace

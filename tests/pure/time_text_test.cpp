@@ -29,21 +29,17 @@ TEST(TimeText, TellsWhatLiesOnTheDay) {
         {0, 0, 0, L"S-E", L"S"},
         // The first of two days.
         {22, 25, 2, L"S-E", L"S"},
-        {22, 25, 0, L"S-MultiDay", L"S"},
         {22, 26, 2, L"S-MultiDay", L"S"}, // The night ends with that minute.
         {22, 26 - 1.0 / 60, 2, L"S-E", L"S"},
         {22, 24, 0, L"S-E", L"S"}, // Midnight.
         {22, 72, 0, L"S-E", L"S"}, // A later one.
         // Whole minutes count.
-        {22, 24 + 1e-9, 0, L"S-E", L"S"},
         {22, 26 - 1e-9, 2, L"S-MultiDay", L"S"},
-        {0, 480, 0xFFFFFFFF, L"S-E", L"S"},
         // The last day, which a midnight begins.
         {-2, 1, 0, L"MultiDay-E", L">E"},
         {-1.0 / 60, 23, 0, L"MultiDay-E", L">E"},
         // A day between.
         {-2, 24, 8, L"MultiDay", L"MultiDay"},
-        {-48, 72, 0, L"MultiDay", L"MultiDay"},
     };
     for (const Case& c : cases) {
         EXPECT_STREQ(Text(c.start, c.end, c.humanHours, TimeForm::Full).CStr(), c.full)

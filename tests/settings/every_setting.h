@@ -22,19 +22,14 @@ inline constexpr std::pair<const wchar_t*, DwordSetting FontSetting::*> kFontNum
     {L"lfUnderline", &FontSetting::underline}, {L"lfStrikeOut", &FontSetting::strikeOut},
     {L"lfHeight", &FontSetting::height},       {L"lfColor", &FontSetting::colour}};
 
-struct ValueNames {
-    std::vector<std::wstring> operator()(const FontRow& row) const {
-        std::vector<std::wstring> names;
-        for (const auto& [suffix, number] : kFontNumbers)
-            names.push_back(std::wstring(row.name) + suffix);
-        return names;
-    }
-    std::vector<std::wstring> operator()(const auto& row) const { return {row.name}; }
-};
-
 // The names of a row's values: six of a font, else one.
 inline std::vector<std::wstring> NamesOf(const SettingRow& row) {
-    return std::visit(ValueNames{}, row.what);
+    const std::wstring name = std::visit([](const auto& what) { return what.name; }, row.what);
+    if (!std::holds_alternative<FontRow>(row.what)) return {name};
+    std::vector<std::wstring> names;
+    for (const auto& [suffix, number] : kFontNumbers)
+        names.push_back(name + suffix);
+    return names;
 }
 
 // The dashboard's tab follows from other settings at each load, whatever was saved.
@@ -43,80 +38,60 @@ inline bool IsChosenAtLoad(const SettingRow& row) {
     return number && number->member == &SettingsStore::ActiveTab;
 }
 
-// Sets a row's setting to something that is not its default and that no repair touches, when all
-// rows are set so together.
-struct SetOther {
-    SettingsStore& store;
+// A row's numbers and its text in a store: none where it is of another kind.
+template <typename Store>
+auto NumbersIn(Store& store, const SettingRow& row) {
+    std::vector<decltype(&store.OnClick)> numbers;
+    if (const auto* number = std::get_if<DwordRow>(&row.what)) {
+        numbers.push_back(&(store.*number->member));
+    } else if (const auto* font = std::get_if<FontRow>(&row.what)) {
+        for (const auto& [suffix, member] : kFontNumbers)
+            numbers.push_back(&(store.*font->member.*member));
+    }
+    return numbers;
+}
 
-    void operator()(const DwordRow& row) const {
-        DwordSetting& setting = store.*row.member;
-        const std::wstring name(row.name);
-        if (name.starts_with(L"CalTitlesOrder")) {
-            setting.Set(5 - setting.defaultValue);
-        } else if (name == L"dHeightLimitLandscape") {
-            setting.Set(100);
-        } else if (name == L"TimelinesLength") {
-            setting.Set(setting.defaultValue - 1);
-        } else {
-            setting.Set(setting.defaultValue + (name == L"PinnedMonthlyClr" ? 2 : 1));
+template <typename Store>
+auto TextIn(Store& store, const SettingRow& row) {
+    const auto* text = std::get_if<TextRow>(&row.what);
+    return text ? &(store.*text->member) : nullptr;
+}
+
+// Sets every setting of a loaded store to something that is not its default and that no repair
+// touches.
+inline void SetAllToOthers(SettingsStore& store) {
+    ForEachRow([&](const SettingTable&, const SettingRow& row) {
+        for (DwordSetting* number : NumbersIn(store, row)) {
+            const std::wstring name = number->name.CStr();
+            uint32_t other = number->defaultValue + 1;
+            if (name.starts_with(L"CalTitlesOrder")) other = 5 - number->defaultValue;
+            if (name == L"dHeightLimitLandscape") other = 100;
+            if (name == L"TimelinesLength") other = number->defaultValue - 1;
+            if (name == L"PinnedMonthlyClr") other = number->defaultValue + 2;
+            number->Set(other);
         }
-    }
-    void operator()(const TextRow& row) const {
-        StringSetting& setting = store.*row.member;
-        setting.Set((std::wstring(setting.defaultValue.CStr()) + L" other").c_str());
-    }
-    void operator()(const FontRow& row) const {
-        LOGFONT font = (store.*row.member).logFont;
-        ++font.lfHeight;
-        ++font.lfWeight;
-        font.lfItalic = 1;
-        font.lfUnderline = 1;
-        font.lfStrikeOut ^= 1;
-        (store.*row.member).Set(&font, 0x123456);
-    }
-    void operator()(const BitsRow&) const {}
-};
+        if (StringSetting* text = TextIn(store, row))
+            text->Set((std::wstring(text->defaultValue.CStr()) + L" other").c_str());
+    });
+}
 
-struct SetDefault {
-    SettingsStore& store;
+inline void SetAllToDefaults(SettingsStore& store) {
+    ForEachRow([&](const SettingTable&, const SettingRow& row) {
+        for (DwordSetting* number : NumbersIn(store, row))
+            number->Set(number->defaultValue);
+        if (StringSetting* text = TextIn(store, row)) text->Set(text->defaultValue.CStr());
+    });
+}
 
-    static void Reset(DwordSetting& setting) { setting.Set(setting.defaultValue); }
-    void operator()(const DwordRow& row) const { Reset(store.*row.member); }
-    void operator()(const TextRow& row) const {
-        StringSetting& setting = store.*row.member;
-        setting.Set(setting.defaultValue.CStr());
-    }
-    void operator()(const FontRow& row) const {
-        for (const auto& [name, number] : kFontNumbers)
-            Reset(store.*row.member.*number);
-    }
-    void operator()(const BitsRow&) const {}
-};
-
-// A row's value in two stores, as text to compare.
-struct Shown {
-    const SettingsStore& store;
-
-    std::wstring operator()(const DwordRow& row) const {
-        return std::to_wstring((store.*row.member).value);
-    }
-    std::wstring operator()(const TextRow& row) const { return (store.*row.member).value.CStr(); }
-    std::wstring operator()(const FontRow& row) const {
-        const FontSetting& font = store.*row.member;
-        std::wstring shown;
-        for (const auto& [name, number] : kFontNumbers)
-            shown += std::to_wstring((font.*number).value) + L" ";
-        const LOGFONT& log = font.logFont;
-        return shown + std::to_wstring(log.lfWeight) + L" " + std::to_wstring(log.lfItalic) + L" " +
-               std::to_wstring(log.lfUnderline) + L" " + std::to_wstring(log.lfStrikeOut) + L" " +
-               std::to_wstring(log.lfHeight);
-    }
-    std::wstring operator()(const BitsRow& row) const {
-        const BitsSetting& bits = store.*row.member;
-        return std::wstring(bits.bits.get(), bits.bits.get() + bits.byteCount);
-    }
-};
-
+// A row's value in a store, as text to compare.
 inline std::wstring ShownIn(const SettingsStore& store, const SettingRow& row) {
-    return std::visit(Shown{store}, row.what);
+    if (const auto* bits = std::get_if<BitsRow>(&row.what)) {
+        const BitsSetting& setting = store.*bits->member;
+        return {setting.bits.get(), setting.bits.get() + setting.byteCount};
+    }
+    if (const StringSetting* text = TextIn(store, row)) return text->value.CStr();
+    std::wstring shown;
+    for (const DwordSetting* number : NumbersIn(store, row))
+        shown += std::to_wstring(number->value) + L" ";
+    return shown;
 }

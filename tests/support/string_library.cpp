@@ -8,11 +8,8 @@ bool MakeStringLibrary(const std::wstring& path, unsigned id, const std::wstring
     // Some library that every PC has, small and without texts.
     wchar_t folder[MAX_PATH];
     GetSystemDirectoryW(folder, MAX_PATH);
-    return CopyFileW((std::wstring(folder) + L"\\version.dll").c_str(), path.c_str(), FALSE) != 0 &&
-           AddString(path, id, text);
-}
-
-bool AddString(const std::wstring& path, unsigned id, const std::wstring& text) {
+    if (!CopyFileW((std::wstring(folder) + L"\\version.dll").c_str(), path.c_str(), FALSE))
+        return false;
     // Texts are kept in blocks of sixteen, each as its length and its characters.
     constexpr unsigned kBlock = 16;
     std::vector<wchar_t> block;
@@ -22,9 +19,8 @@ bool AddString(const std::wstring& path, unsigned id, const std::wstring& text) 
         block.insert(block.end(), entry.begin(), entry.end());
     }
     HANDLE update = BeginUpdateResourceW(path.c_str(), FALSE);
-    if (update == nullptr) return false;
-    const bool added = UpdateResourceW(update, RT_STRING, MAKEINTRESOURCEW(id / kBlock + 1),
-                                       MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL), block.data(),
-                                       static_cast<DWORD>(block.size() * sizeof(wchar_t))) != 0;
-    return EndUpdateResourceW(update, added ? FALSE : TRUE) != 0 && added;
+    return UpdateResourceW(update, RT_STRING, MAKEINTRESOURCEW(id / kBlock + 1),
+                           MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL), block.data(),
+                           static_cast<DWORD>(block.size() * sizeof(wchar_t))) &&
+           EndUpdateResourceW(update, FALSE);
 }
