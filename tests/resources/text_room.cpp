@@ -105,7 +105,7 @@ void CheckText(HFONT font, const std::wstring& text, const SIZE& room, Misfits& 
     if (size.cx > room.cx || size.cy > room.cy) Report(text, size, room, misfits);
 }
 
-void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND control)) {
+void CheckControls(HWND window, Misfits& misfits) {
     struct Kind {
         const wchar_t* className;
         void (*check)(HWND control, Misfits& misfits);
@@ -117,7 +117,8 @@ void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND con
                                {WC_TABCONTROL, CheckTabs}};
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         for (const Kind& kind : kKinds) {
-            if (isMeant(child) && IsOfClass(child, kind.className)) kind.check(child, misfits);
+            if (IsWindowVisible(child) && IsOfClass(child, kind.className))
+                kind.check(child, misfits);
         }
     }
 }
