@@ -88,12 +88,13 @@ void LookAtEachRow(HWND window, Look look) {
     }
 }
 
-// Opens a page and closes it, as a visitor does: every tab and every option, and back.
+// Opens a page and closes it, as a visitor does: at once, or after every tab and every option.
 template <typename Look>
-void VisitPage(HWND mainWindow, int row, Look look) {
+void VisitPage(HWND mainWindow, int row, Look look, bool everywhere = true) {
     const std::unique_ptr<SettingsPage> page(CreatePage(mainWindow, row));
     ASSERT_TRUE(page && page->hwnd);
-    for (int tab = 0; tab < page->GetTabCount(); ++tab) {
+    PumpMessages();
+    for (int tab = 0; everywhere && tab < page->GetTabCount(); ++tab) {
         SendMessage(page->tabStrip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
         PumpMessages();
         LookAtEachRow(page->hwnd, look);
