@@ -15,6 +15,12 @@ namespace {
 
 constexpr int kRowsTaken = 3; // Of each list.
 
+bool IsOfClass(HWND window, const wchar_t* className) {
+    wchar_t name[64] = L"";
+    GetClassName(window, name, 64);
+    return lstrcmpi(name, className) == 0;
+}
+
 // Waits until the program has done what it was told, and answers what it asks meanwhile. Sent
 // messages are taken in their order; posted ones come after them.
 void Settle(HWND page) {
@@ -22,17 +28,9 @@ void Settle(HWND page) {
     for (int rounds = 0; rounds < 4; ++rounds) {
         SendMessageTimeout(page, WM_NULL, 0, 0, SMTO_NORMAL, kLimit, nullptr);
         HWND front = GetLastActivePopup(page);
-        wchar_t name[16] = L"";
-        GetClassName(front, name, 16);
-        if (front == page || lstrcmp(name, L"#32770") != 0) return;
+        if (front == page || !IsOfClass(front, L"#32770")) return;
         Answer(front, IDOK);
     }
-}
-
-bool IsOfClass(HWND window, const wchar_t* className) {
-    wchar_t name[64] = L"";
-    GetClassName(window, name, 64);
-    return lstrcmpi(name, className) == 0;
 }
 
 bool IsCheckBox(HWND window) {
@@ -146,7 +144,6 @@ RegistryTree TreeOf(HKEY root, const wchar_t* path) {
 } // namespace
 
 int main() {
-    const RegistryTree before = SettingsTree();
     Program program;
     HWND main = program.WaitForPageList();
     if (!main) return 2;
@@ -168,14 +165,7 @@ int main() {
     PostMessage(main, WM_COMMAND, IDOK, 0);
     if (program.WaitForExit() != 0) return 5;
 
-    const RegistryTree after = SettingsTree();
-    size_t same = 0;
-    for (const auto& [path, value] : before) {
-        const auto found = after.find(path);
-        same += found != after.end() && found->second == value;
-    }
-    std::printf("%zu values before, %zu after, %zu the same\n", before.size(), after.size(), same);
-    PrintTree("HKCU\\", after);
+    PrintTree("HKCU\\", SettingsTree());
     PrintTree("HKLM\\", TreeOf(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today"));
     return unchanged == 0 ? 0 : 1;
 }

@@ -2,12 +2,13 @@
 
 #include <aygshell.h>
 #include <commctrl.h>
+#include <stand_in.h>
+
+#include <cstdio>
 
 #include "resource_ids.h"
-#include "shell/services/scaling.h"
 
 namespace {
-constexpr size_t kStepsTold = 25;
 RandomUser* current;
 
 std::wstring ClassOf(HWND window) {
@@ -65,21 +66,13 @@ RandomUser::RandomUser(uint32_t seed)
 
 RandomUser::~RandomUser() {
     KillTimer(nullptr, timer_);
+    StandInSetScreen(0, 0);
     current = nullptr;
 }
 
 void RandomUser::Begin(HWND mainWindow, int steps) {
     mainWindow_ = mainWindow;
     lastStep_ = stepsMade_ + steps;
-    isTurned_ = false;
-}
-
-std::string RandomUser::Story() const {
-    std::string story = "seed " + std::to_string(seed_) + ", the last of " +
-                        std::to_string(stepsMade_) + " steps:\n";
-    for (const std::string& step : latest_)
-        story += step + "\n";
-    return story;
 }
 
 void CALLBACK RandomUser::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
@@ -102,27 +95,22 @@ void RandomUser::TakeStep() {
 }
 
 void RandomUser::Act(HWND front) {
-    const int choice = Below(100);
-    if (choice < 36)
-        TapControl(front);
-    else if (choice < 46)
-        TapScreen();
-    else if (choice < 66)
-        PressKey();
-    else if (choice < 70)
-        TypeCharacters();
-    else if (choice < 79)
-        ChooseEntry(front);
-    else if (choice < 87)
-        ChangeTab(front);
-    else if (choice < 91)
-        ReplaceText(front);
-    else if (choice < 97)
-        Answer(front);
-    else if (choice < 99)
-        TurnScreen();
-    else
-        ShowInputPanel();
+    struct Habit {
+        int share; // Of a hundred steps.
+        void (RandomUser::*act)(HWND front);
+    };
+    constexpr Habit kHabits[] = {
+        {36, &RandomUser::TapControl}, {10, &RandomUser::TapScreen},
+        {20, &RandomUser::PressKey},   {4, &RandomUser::TypeCharacters},
+        {9, &RandomUser::ChooseEntry}, {8, &RandomUser::ChangeTab},
+        {4, &RandomUser::ReplaceText}, {6, &RandomUser::Answer},
+        {2, &RandomUser::TurnScreen},  {1, &RandomUser::ShowInputPanel},
+    };
+    int choice = Below(100);
+    const Habit* habit = kHabits;
+    while (choice >= habit->share)
+        choice -= habit++->share;
+    (this->*habit->act)(front);
 }
 
 int RandomUser::Below(int limit) {
@@ -134,14 +122,11 @@ HWND RandomUser::Pick(const std::vector<HWND>& windows) {
                            : windows[static_cast<size_t>(Below(static_cast<int>(windows.size())))];
 }
 
-void RandomUser::Note(const std::string& step, HWND window) {
-    const std::wstring name = ClassOf(window);
-    const std::wstring root = ClassOf(GetAncestor(window, GA_ROOT));
-    latest_.push_back(std::to_string(stepsMade_) + ": " + step + " " +
-                      std::string(name.begin(), name.end()) + " " +
-                      std::to_string(GetDlgCtrlID(window)) + " in " +
-                      std::string(root.begin(), root.end()));
-    if (latest_.size() > kStepsTold) latest_.pop_front();
+void RandomUser::Note(const std::string& step, HWND window) const {
+    std::printf("seed %u step %d: %s %ls %d in %ls\n", seed_, stepsMade_.load(), step.c_str(),
+                ClassOf(window).c_str(), GetDlgCtrlID(window),
+                ClassOf(GetAncestor(window, GA_ROOT)).c_str());
+    std::fflush(stdout);
 }
 
 void RandomUser::TapControl(HWND front) {
@@ -153,7 +138,7 @@ void RandomUser::TapControl(HWND front) {
 }
 
 // Reaches the bars, the open lists and menus.
-void RandomUser::TapScreen() {
+void RandomUser::TapScreen(HWND) {
     TapAt({Below(GetSystemMetrics(SM_CXSCREEN)), Below(GetSystemMetrics(SM_CYSCREEN))});
 }
 
@@ -185,7 +170,7 @@ void RandomUser::TapAt(POINT place) {
     PostMessage(window, WM_LBUTTONUP, 0, Packed(place));
 }
 
-void RandomUser::PressKey() {
+void RandomUser::PressKey(HWND) {
     constexpr WPARAM kKeys[] = {VK_DOWN,   VK_DOWN,   VK_DOWN,  VK_UP,     VK_UP,
                                 VK_LEFT,   VK_LEFT,   VK_RIGHT, VK_RIGHT,  VK_TAB,
                                 VK_RETURN, VK_RETURN, VK_SPACE, VK_PRIOR,  VK_NEXT,
@@ -200,7 +185,7 @@ void RandomUser::PressKey() {
     PostMessage(focus, WM_KEYUP, key, 0);
 }
 
-void RandomUser::TypeCharacters() {
+void RandomUser::TypeCharacters(HWND) {
     constexpr wchar_t kCharacters[] = L"0123456789abcXYZ \\/:*.%&äßЖ\x200F";
     HWND focus = GetFocus();
     if (!IsOfThisThread(focus)) return;
@@ -263,26 +248,12 @@ void RandomUser::Answer(HWND front) {
     if (hasButton) PostMessage(front, WM_COMMAND, answer, 0);
 }
 
-// What fills the screen is placed anew, as the system does it.
-void RandomUser::TurnScreen() {
-    constexpr int kBar = 26;
-    RECT place{};
-    GetWindowRect(mainWindow_, &place);
-    isTurned_ = !isTurned_;
-    Note(isTurned_ ? "turn" : "turn back", mainWindow_);
-    std::vector<HWND> full;
-    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
-        RECT other{};
-        GetWindowRect(window, &other);
-        if (IsOfThisThread(window) && IsWindowVisible(window) && EqualRect(&other, &place))
-            full.push_back(window);
-    }
-    for (HWND window : full)
-        MoveWindow(window, 0, Scale(kBar), Scale(isTurned_ ? 320 : 240),
-                   Scale((isTurned_ ? 240 : 320) - 2 * kBar), TRUE);
+void RandomUser::TurnScreen(HWND front) {
+    Note("turn", front);
+    StandInSetScreen(GetSystemMetrics(SM_CYSCREEN), GetSystemMetrics(SM_CXSCREEN));
 }
 
-void RandomUser::ShowInputPanel() {
-    Note("panel", mainWindow_);
+void RandomUser::ShowInputPanel(HWND front) {
+    Note("panel", front);
     SipShowIM(Below(2) == 0 ? SIPF_OFF : SIPF_ON);
 }

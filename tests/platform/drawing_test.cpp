@@ -3,23 +3,15 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <cstring>
-#include <cwchar>
 #include <string>
 
 namespace {
 
-constexpr COLORREF kKey = RGB(255, 0, 255);
-
-// 32-bit pixels, the top row first, selected into a context of their own.
+// 32-bit pixels, the top row first, and a context that draws on them.
 struct Canvas {
-    Canvas(int width, int height) : dc(CreateCompatibleDC(nullptr)) {
+    Canvas(int wide, int high) : width(wide), height(high), dc(CreateCompatibleDC(nullptr)) {
         BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
+        info.bmiHeader = {sizeof(info.bmiHeader), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         void* bits = nullptr;
         bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
         pixels = static_cast<DWORD*>(bits);
@@ -32,81 +24,64 @@ struct Canvas {
         DeleteObject(bitmap);
     }
 
+    int width, height;
     HDC dc;
     HBITMAP bitmap;
     DWORD* pixels;
     HGDIOBJ previous;
 };
 
-// Draws key and ink in a chess pattern at 1, 2, each in so many pixels, over pixels that all
-// differ.
-void ExpectOnlyInkDrawn(HANDLE source, int cell) {
-    const Canvas target(8, 8);
-    for (DWORD i = 0; i < 64; ++i)
-        target.pixels[i] = i;
-    ASSERT_TRUE(TransparentImage(target.dc, 1, 2, 2 * cell, 2 * cell, source, 1, 0, 2, 2, kKey));
-    for (int i = 0; i < 64; ++i) {
-        const int column = i % 8 < 1 ? -1 : (i % 8 - 1) / cell;
-        const int row = i / 8 < 2 ? -1 : (i / 8 - 2) / cell;
-        const bool isInk = (column == 0 && row == 1) || (column == 1 && row == 0);
-        EXPECT_EQ(target.pixels[i] & 0xFFFFFF, isInk ? 0x10C808u : i) << i << " of " << cell;
-    }
-}
-
 TEST(DrawingTest, OneColorStaysOut) {
-    // The fourth byte, which what loads pictures leaves full, is no part of the colour. The first
-    // column is not drawn.
-    constexpr DWORD kSource[] = {0xFF010203, 0xFFFF00FF, 0xFF10C808,
-                                 0xFF010203, 0xFF10C808, 0xFFFF00FF};
-    const Canvas source(3, 2);
-    std::memcpy(source.pixels, kSource, sizeof kSource);
-    ExpectOnlyInkDrawn(source.dc, 1);
-    ExpectOnlyInkDrawn(source.dc, 3);
-    EXPECT_FALSE(TransparentImage(source.dc, 0, 0, 2, 2, source.bitmap, 0, 0, 2, 2, kKey))
-        << "a bitmap that a context holds";
+    // The fourth byte, which what loads pictures leaves full, is no part of the colour.
+    const Canvas source(2, 2);
+    constexpr DWORD kChess[] = {0xFFFF00FF, 0xFF10C808, 0xFF10C808, 0xFFFF00FF};
+    std::ranges::copy(kChess, source.pixels);
     SelectObject(source.dc, source.previous);
-    ExpectOnlyInkDrawn(source.bitmap, 1);
-}
-
-// What lies to the left of a text's last pixel.
-int DrawnWidth(const Canvas& canvas, int width, int height) {
-    for (int x = width - 1; x >= 0; --x) {
-        for (int y = 0; y < height; ++y) {
-            if ((canvas.pixels[y * width + x] & 0xFFFFFF) != 0xFFFFFF) return x + 1;
+    for (const int cell : {1, 3}) {
+        const Canvas target(8, 8);
+        for (DWORD i = 0; i < 64; ++i)
+            target.pixels[i] = i;
+        ASSERT_TRUE(TransparentImage(target.dc, 1, 2, 2 * cell, 2 * cell, source.bitmap, 0, 0, 2, 2,
+                                     RGB(255, 0, 255)));
+        for (int i = 0; i < 64; ++i) {
+            const int column = i % 8 < 1 ? -1 : (i % 8 - 1) / cell;
+            const int row = i / 8 < 2 ? -1 : (i / 8 - 2) / cell;
+            const bool isInk = (column == 0 && row == 1) || (column == 1 && row == 0);
+            EXPECT_EQ(target.pixels[i] & 0xFFFFFF, isInk ? 0x10C808u : i) << i << " of " << cell;
         }
     }
-    return 0;
+}
+
+// Up to a text's last pixel.
+int DrawnWidth(const Canvas& canvas) {
+    int drawn = 0;
+    for (int i = 0; i < canvas.width * canvas.height; ++i)
+        if ((canvas.pixels[i] & 0xFFFFFF) != 0xFFFFFF)
+            drawn = std::max(drawn, i % canvas.width + 1);
+    return drawn;
 }
 
 // Texts are laid out by their measure: drawn wider, a label at the right loses its last letters.
 TEST(DrawingTest, TextIsAsWideAsItMeasures) {
-    constexpr int kWidth = 500;
-    constexpr int kHeight = 40;
     // The gap after the last letter, and widths that cannot be right for all sizes at once.
-    constexpr int kMostOver = 6;
+    constexpr int kMostOver = 8;
+    const std::wstring text = L"Look at words as they were took; Показывать это окно под другим";
     for (const LONG size : {12, 13, 24}) {
         for (const LONG weight : {FW_NORMAL, FW_BOLD}) {
-            LOGFONTW description = {};
-            description.lfHeight = size;
-            description.lfWeight = weight;
-            wcscpy(description.lfFaceName, L"Tahoma");
-            HFONT font = CreateFontIndirectW(&description);
-            for (const std::wstring text :
-                 {L"Look at words as they were took", L"Показывать это окно под другим"}) {
-                const Canvas canvas(kWidth, kHeight);
-                std::fill_n(canvas.pixels, kWidth * kHeight, 0xFFFFFFu);
-                HGDIOBJ previous = SelectObject(canvas.dc, font);
-                SIZE measured = {};
-                GetTextExtentPoint32W(canvas.dc, text.c_str(), static_cast<int>(text.size()),
-                                      &measured);
-                TextOutW(canvas.dc, 0, 0, text.c_str(), static_cast<int>(text.size()));
-                GdiFlush();
-                SelectObject(canvas.dc, previous);
-                const int drawn = DrawnWidth(canvas, kWidth, kHeight);
-                EXPECT_LE(drawn, measured.cx) << size << " " << weight;
-                EXPECT_GE(drawn + kMostOver, measured.cx) << size << " " << weight;
-            }
+            HFONT font = CreateFontW(size, 0, 0, 0, weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0,
+                                     0, 0, 0, L"Tahoma");
+            const Canvas canvas(1000, 40);
+            std::fill_n(canvas.pixels, 1000 * 40, 0xFFFFFFu);
+            HGDIOBJ previous = SelectObject(canvas.dc, font);
+            SIZE measured = {};
+            const auto length = static_cast<int>(text.size());
+            GetTextExtentPoint32W(canvas.dc, text.c_str(), length, &measured);
+            TextOutW(canvas.dc, 0, 0, text.c_str(), length);
+            GdiFlush();
+            SelectObject(canvas.dc, previous);
             DeleteObject(font);
+            EXPECT_LE(DrawnWidth(canvas), measured.cx) << size << " " << weight;
+            EXPECT_GE(DrawnWidth(canvas) + kMostOver, measured.cx) << size << " " << weight;
         }
     }
 }

@@ -1,11 +1,9 @@
-#include <gtest/gtest.h>
-
-#include "temp_file.h"
-
 #include <imaging.h>
 
-#include <array>
 #include <cstring>
+
+#include "tests/support/install_folder.h"
+#include "tests/support/registry_fixture.h"
 
 namespace {
 
@@ -16,42 +14,30 @@ constexpr std::string_view kPng{
     "\xAE\x42\x60\x82",
     77};
 
-class ImagingTest : public testing::Test {
-  protected:
-    ImagingTest() {
-        CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-        CoCreateInstance(CLSID_ImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IImagingFactory,
-                         reinterpret_cast<void**>(&factory_));
-    }
-    ~ImagingTest() override {
-        for (IUnknown* object : std::array<IUnknown*, 3>{bitmap_, image_, factory_})
-            EXPECT_EQ(object ? object->Release() : 0u, 0u);
-        CoUninitialize();
-    }
-    void SetUp() override { ASSERT_NE(factory_, nullptr) << "is the class registered?"; }
-
-    TempFile file_{L"picture.png"};
-    IImagingFactory* factory_ = nullptr;
-    IImage* image_ = nullptr;
-    IBitmapImage* bitmap_ = nullptr;
-};
+using ImagingTest = RegistryFixture;
 
 TEST_F(ImagingTest, PixelsKeepTheirAlpha) {
-    file_.Write(kPng);
-    ASSERT_EQ(factory_->CreateImageFromFile(file_.Path(), &image_), S_OK);
-    ImageInfo info = {};
-    ASSERT_EQ(image_->GetImageInfo(&info), S_OK);
-    EXPECT_EQ(info.Width, 2u);
-    EXPECT_EQ(info.Height, 2u);
-    ASSERT_EQ(factory_->CreateBitmapFromImage(image_, 2, 2, PixelFormat32bppARGB,
-                                              InterpolationHintDefault, &bitmap_),
+    const InstallFolder folder;
+    folder.Write(L"picture.png", std::string(kPng));
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    IImagingFactory* factory = nullptr;
+    CoCreateInstance(CLSID_ImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IImagingFactory,
+                     reinterpret_cast<void**>(&factory));
+    ASSERT_NE(factory, nullptr) << "is the class registered?";
+    IImage* image = nullptr;
+    ASSERT_EQ(factory->CreateImageFromFile(folder.PathOf(L"picture.png").c_str(), &image), S_OK);
+    IBitmapImage* bitmap = nullptr;
+    ASSERT_EQ(factory->CreateBitmapFromImage(image, 2, 2, PixelFormat32bppARGB,
+                                             InterpolationHintDefault, &bitmap),
               S_OK);
     BitmapData data = {};
-    ASSERT_EQ(bitmap_->LockBits(nullptr, ImageLockModeRead, PixelFormat32bppARGB, &data), S_OK);
+    ASSERT_EQ(bitmap->LockBits(nullptr, ImageLockModeRead, PixelFormat32bppARGB, &data), S_OK);
     ASSERT_EQ(data.Stride, 8);
     constexpr DWORD kPixels[] = {0xFFFF0000, 0x8000FF00, 0x00000000, 0xFF0000FF};
     EXPECT_EQ(memcmp(data.Scan0, kPixels, sizeof kPixels), 0);
-    EXPECT_EQ(bitmap_->UnlockBits(&data), S_OK);
+    EXPECT_EQ(bitmap->UnlockBits(&data), S_OK);
+    EXPECT_EQ(bitmap->Release() + image->Release() + factory->Release(), 0u);
+    CoUninitialize();
 }
 
 } // namespace

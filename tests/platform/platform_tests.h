@@ -7,6 +7,3 @@
 #define kSaveCommand 40
 #define kAboutCommand 41
 #define kExportCommand 42
-#define kImportCommand 43
-#define kIconCommand 46
-#define kDialogEdit 47

@@ -18,14 +18,8 @@ inline int BarHeight() {
     return Pixels(26);
 }
 
-inline RECT Screen() {
-    return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-}
-
 inline RECT DeviceWorkArea() {
-    RECT area = Screen();
-    area.top += BarHeight();
-    return area;
+    return {0, BarHeight(), GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
 inline RECT PlaceOf(HWND window) {
@@ -42,59 +36,25 @@ inline std::ostream& operator<<(std::ostream& out, const RECT& rect) {
     return out << rect.left << ',' << rect.top << ' ' << rect.right << ',' << rect.bottom;
 }
 
-// A press and a release of the pointer at a point of a window's client area.
-inline void TapAt(HWND window, POINT point) {
-    const LPARAM position = MAKELPARAM(point.x, point.y);
+// A press and a release of the pointer in the middle of a part of a window.
+inline void Tap(HWND window, const RECT& part) {
+    const LPARAM position = MAKELPARAM((part.left + part.right) / 2, (part.top + part.bottom) / 2);
     SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, position);
     SendMessageW(window, WM_LBUTTONUP, 0, position);
 }
 
-inline HWND NavigationBarWindow() {
-    return FindWindowW(L"StandInNavigationBar", nullptr);
-}
-
-inline POINT NavigationButton() {
-    return {Screen().right - BarHeight() / 2, BarHeight() / 2};
-}
-
-// Handles messages until the condition holds; gives up after two seconds.
-template <typename Condition>
-bool PumpUntil(Condition holds) {
-    const DWORD end = GetTickCount() + 2000;
-    while (!holds()) {
-        if (GetTickCount() > end) return false;
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-    }
-    return true;
-}
-
-struct ProgramWindowOptions {
-    DWORD style = WS_VISIBLE | WS_CLIPSIBLINGS;
-    DWORD exStyle = WS_EX_CAPTIONOKBTN;
-    RECT place = {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0}; // Fills the work area.
-    HWND owner = nullptr;
-};
-
-// A top-level window that remembers what it is told. Destroyed with this object at the latest.
+// A top-level window that fills the work area and remembers what it is told. Destroyed with this
+// object at the latest.
 class ProgramWindow {
   public:
-    explicit ProgramWindow(const ProgramWindowOptions& options = {}) {
+    explicit ProgramWindow(DWORD style = WS_VISIBLE | WS_CLIPSIBLINGS) {
         WNDCLASSW windowClass = {};
         windowClass.lpfnWndProc = WindowProc;
         windowClass.lpszClassName = L"ProgramWindow";
         RegisterClassW(&windowClass);
-        const RECT& place = options.place;
-        const bool byDefault = place.left == CW_USEDEFAULT;
-        window = CreateWindowExW(options.exStyle, L"ProgramWindow", L"Program", options.style,
-                                 place.left, place.top,
-                                 byDefault ? CW_USEDEFAULT : place.right - place.left,
-                                 byDefault ? CW_USEDEFAULT : place.bottom - place.top,
-                                 options.owner, nullptr, nullptr, this);
+        window = CreateWindowExW(WS_EX_CAPTIONOKBTN, L"ProgramWindow", L"Program", style,
+                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                                 nullptr, nullptr, nullptr, this);
     }
     ProgramWindow(const ProgramWindow&) = delete;
     ProgramWindow& operator=(const ProgramWindow&) = delete;
@@ -104,11 +64,8 @@ class ProgramWindow {
 
     HWND window = nullptr;
     std::vector<int> commands; // The ids of the WM_COMMANDs that came.
-    int moves = 0;             // WM_MOVEs.
     RECT clientAtCreation = {};
-    SHACTIVATEINFO activation = {sizeof(SHACTIVATEINFO), nullptr, 0, 0, 0, 0};
-    void (*onMenuIdle)(ProgramWindow& self) = nullptr; // Called once an opened menu waits.
-    RECT menuPlace = {};
+    RECT menuPlace = {}; // Of the first menu that opens; its last entry is then chosen.
 
   private:
     static LRESULT CALLBACK WindowProc(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -127,27 +84,26 @@ class ProgramWindow {
         case WM_CREATE:
             GetClientRect(handle, &clientAtCreation);
             break;
-        case WM_MOVE:
-            ++moves;
-            break;
         case WM_COMMAND:
             if (HIWORD(wParam) == 0) commands.push_back(LOWORD(wParam));
             break;
         case WM_ACTIVATE:
-            SHHandleWMActivate(handle, wParam, lParam, &activation, 0);
+            SHHandleWMActivate(handle, wParam, lParam, &activation_, 0);
             break;
         case WM_SETTINGCHANGE:
-            SHHandleWMSettingChange(handle, wParam, lParam, &activation);
+            SHHandleWMSettingChange(handle, wParam, lParam, &activation_);
             break;
         case WM_ENTERIDLE:
-            if (auto* idle = std::exchange(onMenuIdle, nullptr)) {
-                menuPlace = PlaceOf(reinterpret_cast<HWND>(lParam));
-                idle(*this);
-            }
+            if (!IsRectEmpty(&menuPlace)) break;
+            menuPlace = PlaceOf(reinterpret_cast<HWND>(lParam));
+            PostMessageW(handle, WM_KEYDOWN, VK_UP, 1);
+            PostMessageW(handle, WM_KEYDOWN, VK_RETURN, 1);
             break;
         case WM_DESTROY:
             window = nullptr;
             break;
         }
     }
+
+    SHACTIVATEINFO activation_ = {sizeof(SHACTIVATEINFO), nullptr, 0, 0, 0, 0};
 };

@@ -1,90 +1,87 @@
 #include <gtest/gtest.h>
 
+#include "platform_tests.h"
 #include "program_window.h"
 
 namespace {
 
-using Commands = std::vector<int>;
-
-RECT ClientOf(HWND window) {
-    RECT client;
-    GetClientRect(window, &client);
-    return client;
+TEST(WindowTest, FillsTheWorkAreaWithoutAFrame) {
+    const RECT area = DeviceWorkArea();
+    const RECT whole = {0, 0, area.right, area.bottom - area.top};
+    for (const DWORD style : {0x14000800UL, DWORD{WS_OVERLAPPEDWINDOW}, DWORD{WS_POPUP}}) {
+        const ProgramWindow program(style);
+        RECT client = {};
+        GetClientRect(program.window, &client);
+        EXPECT_EQ(PlaceOf(program.window), area) << style;
+        EXPECT_EQ(client, whole) << style;
+        EXPECT_EQ(program.clientAtCreation, whole) << style;
+    }
 }
 
-TEST(WindowTest, DefaultPlaceIsTheWorkArea) {
-    RECT area = {};
-    ASSERT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0));
-    EXPECT_EQ(area, DeviceWorkArea());
-
-    const ProgramWindow overlapped;
-    EXPECT_EQ(PlaceOf(overlapped.window), area);
-    const ProgramWindow popup({.style = WS_POPUP});
-    EXPECT_EQ(PlaceOf(popup.window), area);
-    const RECT small = {10, 40, 60, 60};
-    const ProgramWindow placed({.style = WS_POPUP, .place = small});
-    EXPECT_EQ(PlaceOf(placed.window), small);
+TEST(WindowTest, FocusReturnsToTheControlThatHadIt) {
+    const ProgramWindow program;
+    const auto child = [&] {
+        return CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, program.window,
+                               nullptr, nullptr, nullptr);
+    };
+    child();
+    const HWND second = child();
+    SetFocus(second);
+    {
+        const ProgramWindow other;
+        EXPECT_EQ(GetFocus(), other.window);
+    }
+    EXPECT_EQ(GetFocus(), second);
+    // Without that control, the window itself takes the focus.
+    {
+        const ProgramWindow other;
+        DestroyWindow(second);
+    }
+    EXPECT_EQ(GetFocus(), program.window);
 }
 
-TEST(WindowTest, OverlappedWindowHasNoFrameAndKeepsItsStyles) {
-    const ProgramWindow plain({.style = 0x14000800});
-    const RECT whole = {0, 0, Screen().right, Screen().bottom - BarHeight()};
-    EXPECT_EQ(ClientOf(plain.window), whole);
-    EXPECT_EQ(plain.clientAtCreation, whole);
-    EXPECT_EQ(GetWindowLongW(plain.window, GWL_STYLE), 0x14000800);
-    EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(plain.window, GWL_EXSTYLE)), WS_EX_CAPTIONOKBTN);
+struct DialogRun {
+    RECT place = {};
+    RECT client = {};
+    BOOL panelRaised = TRUE;
+};
 
-    const ProgramWindow framed({.style = WS_OVERLAPPEDWINDOW, .exStyle = 0});
-    EXPECT_EQ(ClientOf(framed.window), whole);
-    EXPECT_TRUE(GetWindowLongW(framed.window, GWL_STYLE) & WS_NONAVDONEBUTTON);
+INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    constexpr UINT kOpened = WM_APP;
+    static DialogRun* run;
+    if (message == WM_INITDIALOG) {
+        run = reinterpret_cast<DialogRun*>(lParam);
+        SHINITDLGINFO info = {SHIDIM_FLAGS, dialog,
+                              SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN};
+        EXPECT_TRUE(SHInitDialog(&info));
+        PostMessageW(dialog, kOpened, 0, 0);
+        return TRUE;
+    }
+    if (message == kOpened) {
+        run->place = PlaceOf(dialog);
+        GetClientRect(dialog, &run->client);
+        run->panelRaised = FindWindowW(L"StandInInputPanel", nullptr) != nullptr;
+        const HWND bar = FindWindowW(L"StandInNavigationBar", nullptr);
+        const int width = DeviceWorkArea().right;
+        Tap(bar, {width - BarHeight(), 0, width, BarHeight()});
+        return TRUE;
+    }
+    if (message == WM_COMMAND) EndDialog(dialog, LOWORD(wParam));
+    return FALSE;
 }
 
-TEST(WindowTest, ChangeOfSizeAloneIsToldAsAMove) {
-    ProgramWindow program;
-    const int before = program.moves;
-    const RECT place = PlaceOf(program.window);
-    MoveWindow(program.window, place.left, place.top, place.right, BarHeight(), FALSE);
-    EXPECT_GT(program.moves, before);
-}
-
-TEST(WindowTest, OkIsSentOnceToTheWindowShown) {
-    ProgramWindow program;
-    const HWND bar = NavigationBarWindow();
-    TapAt(bar, NavigationButton());
-    EXPECT_EQ(program.commands, Commands{IDOK});
-
-    ProgramWindow popup({.style = WS_POPUP | WS_VISIBLE, .owner = program.window});
-    TapAt(bar, NavigationButton());
-    EXPECT_EQ(popup.commands, Commands{IDOK});
-    EXPECT_EQ(program.commands, Commands{IDOK});
-    EXPECT_EQ(GetActiveWindow(), popup.window);
-}
-
-TEST(WindowTest, XPutsTheProgramAwayUntilItIsCalledForward) {
-    ProgramWindow program({.exStyle = 0});
-    const HWND bar = NavigationBarWindow();
-    TapAt(bar, NavigationButton());
-    EXPECT_EQ(program.commands, Commands{});
-    EXPECT_TRUE(IsWindow(program.window));
-    EXPECT_TRUE(IsIconic(program.window));
-    EXPECT_FALSE(IsWindowVisible(bar));
-
-    const auto handle = reinterpret_cast<UINT_PTR>(program.window);
-    EXPECT_TRUE(SetForegroundWindow(reinterpret_cast<HWND>(handle | 1)));
-    EXPECT_EQ(PlaceOf(program.window), DeviceWorkArea());
-    EXPECT_EQ(GetForegroundWindow(), program.window);
-    EXPECT_TRUE(IsWindowVisible(bar));
-}
-
-TEST(WindowTest, ForegroundRequestWithTheLowBitReachesThePopup) {
-    ProgramWindow program;
-    const ProgramWindow dialog({.style = WS_POPUP | WS_VISIBLE, .owner = program.window});
-    EnableWindow(program.window, FALSE);
-    const ProgramWindow other;
-    ASSERT_EQ(GetForegroundWindow(), other.window);
-    const auto handle = reinterpret_cast<UINT_PTR>(program.window);
-    EXPECT_TRUE(SetForegroundWindow(reinterpret_cast<HWND>(handle | 1)));
-    EXPECT_EQ(GetForegroundWindow(), dialog.window);
+TEST(WindowTest, FullScreenDialogEndsByDone) {
+    const ProgramWindow program;
+    const RECT area = DeviceWorkArea();
+    const LONG aboveBar = area.bottom - BarHeight();
+    DialogRun done;
+    SipShowIM(SIPF_ON);
+    EXPECT_EQ(DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kDialog), program.window,
+                              DialogProc, reinterpret_cast<LPARAM>(&done)),
+              IDOK);
+    EXPECT_FALSE(done.panelRaised);
+    EXPECT_EQ(done.place, (RECT{0, area.top, area.right, aboveBar}));
+    EXPECT_EQ(done.client, (RECT{0, 0, area.right, aboveBar - area.top}));
 }
 
 } // namespace

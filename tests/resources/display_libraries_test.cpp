@@ -17,32 +17,46 @@ namespace {
 
 const std::wstring kInstallFolder = L"\\Program Files\\Teskel\\Orvane\\";
 
-struct Strip {
-    UINT id;
-    int count;
-    int units;
-    COLORREF mask;
-};
-constexpr Strip kPageListStrip = {IDB_PAGE_LIST, 12, 32, 0x00FF00};
-constexpr Strip kMenuBarStrip = {IDB_MENU_BAR, 2, 16, 0xC6CFDE};
-constexpr Strip kFileStrip = {IDB_FILE_IMAGES, 2, 20, 0x00FF00};
-
 constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr COLORREF kRed = 0x0000FF;
 constexpr COLORREF kGreen = 0x00FF00;
-// The dashboard's symbols by their numbers, which the dashboard knows too.
-constexpr struct {
+
+// A bitmap of square images in a row, each so many units wide.
+struct Strip {
     UINT id;
     COLORREF clear;
-} kSymbols[] = {{290, kWhite}, {291, kWhite}, {287, kWhite}, {292, kWhite}, {293, kWhite},
-                {289, kWhite}, {286, kWhite}, {294, kWhite}, {288, kWhite}, {296, kWhite},
-                {295, kWhite}, {297, kWhite}, {298, kWhite}, {299, kWhite}, {319, kWhite},
-                {339, kWhite}, {190, kRed},   {189, kRed},   {282, kWhite}, {283, kWhite},
-                {269, kGreen}, {270, kGreen}, {321, kWhite}, {323, kWhite}};
-constexpr struct {
-    const wchar_t* file;
-    int scale;
-} kLibraries[] = {{L"LowDpiRes.dll", 1}, {L"HighDpiRes.dll", 2}};
+    int units = 12;
+    int count = 1;
+};
+constexpr Strip kStrips[] = {
+    {IDB_PAGE_LIST, kGreen, 32, 12},
+    {IDB_MENU_BAR, 0xC6CFDE, 16, 2},
+    {IDB_FILE_IMAGES, kGreen, 20, 2},
+    // The dashboard's symbols by their numbers, which the dashboard knows too.
+    {290, kWhite},
+    {291, kWhite},
+    {287, kWhite},
+    {292, kWhite},
+    {293, kWhite},
+    {289, kWhite},
+    {286, kWhite},
+    {294, kWhite},
+    {288, kWhite},
+    {296, kWhite},
+    {295, kWhite},
+    {297, kWhite},
+    {298, kWhite},
+    {299, kWhite},
+    {319, kWhite},
+    {339, kWhite},
+    {190, kRed},
+    {189, kRed},
+    {282, kWhite},
+    {283, kWhite},
+    {269, kGreen},
+    {270, kGreen},
+    {321, kWhite},
+    {323, kWhite}};
 
 // The pixels of a library's bitmap; empty when it is not there or not of 24 bits.
 class Picture {
@@ -78,33 +92,9 @@ class Picture {
 
 // A colour so close to the mask that it must be what is left of the mask under a smooth edge.
 bool IsFringe(COLORREF colour, COLORREF mask) {
-    if (colour == mask) return false;
     const auto close = [](int a, int b) { return std::abs(a - b) <= 8; };
-    return close(GetRValue(colour), GetRValue(mask)) && close(GetGValue(colour), GetGValue(mask)) &&
-           close(GetBValue(colour), GetBValue(mask));
-}
-
-void ExpectCornersClear(const std::vector<COLORREF>& image, int size, COLORREF mask) {
-    for (const int corner : {0, size - 1, size * (size - 1), size * size - 1})
-        EXPECT_EQ(image[static_cast<size_t>(corner)], mask);
-}
-
-void CheckStrip(HMODULE library, const Strip& strip, int scale) {
-    const Picture picture(library, strip.id);
-    const int size = strip.units * scale;
-    ASSERT_EQ(picture.Height(), size);
-    ASSERT_EQ(picture.Width(), size * strip.count);
-    std::set<std::vector<COLORREF>> images;
-    for (int i = 0; i < strip.count; ++i) {
-        SCOPED_TRACE(i);
-        const std::vector<COLORREF> image = picture.Image(i);
-        ExpectCornersClear(image, size, strip.mask);
-        EXPECT_LT(std::count(image.begin(), image.end(), strip.mask), size * size * 3 / 4)
-            << "hardly anything is drawn";
-        EXPECT_TRUE(std::none_of(image.begin(), image.end(),
-                                 [&](COLORREF colour) { return IsFringe(colour, strip.mask); }));
-        EXPECT_TRUE(images.insert(image).second) << "the same as an image before it";
-    }
+    return colour != mask && close(GetRValue(colour), GetRValue(mask)) &&
+           close(GetGValue(colour), GetGValue(mask)) && close(GetBValue(colour), GetBValue(mask));
 }
 
 // How much redder than green what is drawn in an image is, summed over its pixels.
@@ -115,84 +105,64 @@ int Redness(const std::vector<COLORREF>& image, COLORREF mask) {
     return sum;
 }
 
-TEST(DisplayLibraries, HoldTheirArtAtTheirDensity) {
-    for (const auto& [file, scale] : kLibraries) {
-        SCOPED_TRACE(scale);
-        const UniqueModule library(LoadLibraryW((kInstallFolder + file).c_str()));
-        ASSERT_TRUE(library);
-        CheckStrip(library.Get(), kPageListStrip, scale);
-        CheckStrip(library.Get(), kMenuBarStrip, scale);
-        CheckStrip(library.Get(), kFileStrip, scale);
-
-        // Cancel, a red cross, comes before OK, a green tick.
-        const Picture menuBar(library.Get(), IDB_MENU_BAR);
-        EXPECT_GT(Redness(menuBar.Image(0), kMenuBarStrip.mask), 0);
-        EXPECT_LT(Redness(menuBar.Image(1), kMenuBarStrip.mask), 0);
-    }
+// The left one points left, the right one right, and nothing joins them.
+void CheckArrows(const Picture& arrows, int scale) {
+    ASSERT_EQ(arrows.Width(), 20 * scale);
+    ASSERT_EQ(arrows.Height(), 12 * scale);
+    const auto isClear = [&](int x, int y) { return arrows.At(x * scale, y * scale) == kRed; };
+    EXPECT_TRUE(isClear(0, 0) && isClear(10, 6) && isClear(3, 2) && isClear(16, 2));
+    EXPECT_FALSE(isClear(3, 6) || isClear(7, 3) || isClear(16, 6) || isClear(12, 3));
 }
 
-TEST(DisplayLibraries, HoldEverySymbolOnceAndTheArrows) {
-    for (const auto& [file, scale] : kLibraries) {
-        const UniqueModule library(LoadLibraryW((kInstallFolder + file).c_str()));
-        ASSERT_TRUE(library);
-        const int size = 12 * scale;
-        std::set<std::vector<COLORREF>> images;
-        for (const auto& [id, clear] : kSymbols) {
-            SCOPED_TRACE(testing::Message() << id << " at " << scale);
-            const Picture picture(library.Get(), id);
-            ASSERT_EQ(picture.Width(), size);
-            ASSERT_EQ(picture.Height(), size);
-            const std::vector<COLORREF> image = picture.Image(0);
+class DisplayLibraries : public testing::TestWithParam<std::pair<const wchar_t*, int>> {};
+
+TEST_P(DisplayLibraries, HoldTheirArtAtTheirDensity) {
+    const auto& [file, scale] = GetParam();
+    const UniqueModule library(LoadLibraryW((kInstallFolder + file).c_str()));
+    ASSERT_TRUE(library);
+    std::set<std::vector<COLORREF>> images;
+    for (const Strip& strip : kStrips) {
+        const COLORREF clear = strip.clear;
+        const Picture picture(library.Get(), strip.id);
+        const int size = strip.units * scale;
+        ASSERT_EQ(picture.Height(), size) << strip.id;
+        ASSERT_EQ(picture.Width(), size * strip.count) << strip.id;
+        for (int i = 0; i < strip.count; ++i) {
+            SCOPED_TRACE(testing::Message() << "image " << i << " of " << strip.id);
+            const std::vector<COLORREF> image = picture.Image(i);
             EXPECT_EQ(image[0], clear);
-            EXPECT_LT(std::count(image.begin(), image.end(), clear), size * size * 4 / 5)
+            EXPECT_LT(std::ranges::count(image, clear), size * size * 4 / 5)
                 << "hardly anything is drawn";
             // Edges that fade into white are right on white alone.
-            EXPECT_TRUE(clear == kWhite ||
-                        std::none_of(image.begin(), image.end(), [mask = clear](COLORREF colour) {
-                            return IsFringe(colour, mask);
+            EXPECT_TRUE(clear == kWhite || std::ranges::none_of(image, [&](COLORREF colour) {
+                            return IsFringe(colour, clear);
                         }));
-            EXPECT_TRUE(images.insert(image).second) << "the same as a symbol before it";
+            EXPECT_TRUE(images.insert(image).second) << "the same as an image before it";
         }
-
-        const Picture arrows(library.Get(), IDB_ARROWS);
-        ASSERT_EQ(arrows.Width(), 20 * scale);
-        ASSERT_EQ(arrows.Height(), 12 * scale);
-        // The left one points left, the right one right, and nothing joins them.
-        const int middle = 6 * scale;
-        EXPECT_EQ(arrows.At(0, 0), kRed);
-        EXPECT_EQ(arrows.At(10 * scale, middle), kRed);
-        EXPECT_NE(arrows.At(3 * scale, middle), kRed);
-        EXPECT_EQ(arrows.At(3 * scale, 2 * scale), kRed);
-        EXPECT_NE(arrows.At(7 * scale, 3 * scale), kRed);
-        EXPECT_NE(arrows.At(16 * scale, middle), kRed);
-        EXPECT_EQ(arrows.At(16 * scale, 2 * scale), kRed);
-        EXPECT_NE(arrows.At(12 * scale, 3 * scale), kRed);
     }
+    // Cancel, a red cross, comes before OK, a green tick.
+    const Picture menuBar(library.Get(), IDB_MENU_BAR);
+    EXPECT_GT(Redness(menuBar.Image(0), kStrips[1].clear), 0);
+    EXPECT_LT(Redness(menuBar.Image(1), kStrips[1].clear), 0);
+    CheckArrows(Picture(library.Get(), IDB_ARROWS), scale);
 }
 
-BOOL CALLBACK CountName(HMODULE, const wchar_t*, wchar_t*, LONG_PTR count) {
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
+INSTANTIATE_TEST_SUITE_P(Both, DisplayLibraries,
+                         testing::Values(std::pair(L"LowDpiRes.dll", 1),
+                                         std::pair(L"HighDpiRes.dll", 2)));
 
-TEST(ProgramResources, AreItsIconKeysAndScalingMarkButNoTexts) {
+TEST(ProgramResources, AreItsIconKeysAndScalingMark) {
     const UniqueModule program(LoadLibraryExW((kInstallFolder + L"OVOptions.exe").c_str(), nullptr,
                                               LOAD_LIBRARY_AS_DATAFILE));
-    ASSERT_TRUE(program);
     const HMODULE module = program.Get();
     EXPECT_NE(FindResourceW(module, MAKEINTRESOURCEW(IDI_PROGRAM), RT_GROUP_ICON), nullptr);
     EXPECT_NE(FindResourceW(module, L"HI_RES_AWARE", L"CEUX"), nullptr);
     EXPECT_NE(FindResourceW(module, MAKEINTRESOURCEW(1), RT_VERSION), nullptr);
-
     ACCEL keys[4] = {};
     ASSERT_EQ(CopyAcceleratorTableW(LoadAcceleratorsW(module, L"OV_OPTIONS"), keys, 4), 1);
     EXPECT_EQ(keys[0].fVirt & ~FNOINVERT, FVIRTKEY | FCONTROL);
     EXPECT_EQ(keys[0].key, 'S');
     EXPECT_EQ(keys[0].cmd, IDOK);
-
-    int stringTables = 0;
-    EnumResourceNamesW(module, RT_STRING, CountName, reinterpret_cast<LONG_PTR>(&stringTables));
-    EXPECT_EQ(stringTables, 0);
 }
 
 } // namespace

@@ -3,14 +3,15 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 #include "shell/services/handles.h"
 #include "shell/services/scaling.h"
 #include "tests/resources/language_library.h"
+#include "tests/support/dialog_steps.h"
 #include "tests/support/window_support.h"
 #include "ui/controls.h"
-#include "ui/list_items.h"
 
 namespace {
 
@@ -59,25 +60,21 @@ void CheckButton(HWND button, Misfits& misfits) {
     CheckLine(button, TextOf(button), ClientSize(button).cx - margins, misfits);
 }
 
+// Texts that are parted by "|".
+void CheckLines(HWND control, const std::wstring& lines, LONG width, Misfits& misfits) {
+    std::wistringstream texts(lines);
+    for (std::wstring text; std::getline(texts, text, L'|');)
+        CheckLine(control, text, width, misfits);
+}
+
 void CheckEntries(HWND combo, Misfits& misfits) {
     const LONG room = ClientSize(combo).cx - GetSystemMetrics(SM_CXVSCROLL) - Scale(kEntryMargins);
-    const std::wstring entries = EntriesOf(combo) + L"|";
-    for (size_t start = 0, end; (end = entries.find(L'|', start)) != std::wstring::npos;
-         start = end + 1)
-        CheckLine(combo, entries.substr(start, end - start), room, misfits);
+    CheckLines(combo, EntriesOf(combo), room, misfits);
 }
 
 void CheckRows(HWND list, Misfits& misfits) {
     const auto column = static_cast<LONG>(SendMessage(list, LVM_GETCOLUMNWIDTH, 0, 0));
-    wchar_t text[512];
-    for (int row = 0; row < RowCount(list); ++row) {
-        LVITEM item{};
-        item.pszText = text;
-        item.cchTextMax = 512;
-        SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row),
-                    reinterpret_cast<LPARAM>(&item));
-        CheckLine(list, text, column - Scale(kRowMargins), misfits);
-    }
+    CheckLines(list, RowsOf(list), column - Scale(kRowMargins), misfits);
 }
 
 void CheckTabs(HWND strip, Misfits& misfits) {
@@ -105,7 +102,7 @@ void CheckText(HFONT font, const std::wstring& text, const SIZE& room, Misfits& 
     if (size.cx > room.cx || size.cy > room.cy) Report(text, size, room, misfits);
 }
 
-void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND control)) {
+void CheckControls(HWND window, Misfits& misfits) {
     struct Kind {
         const wchar_t* className;
         void (*check)(HWND control, Misfits& misfits);
@@ -117,7 +114,8 @@ void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND con
                                {WC_TABCONTROL, CheckTabs}};
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         for (const Kind& kind : kKinds) {
-            if (isMeant(child) && IsOfClass(child, kind.className)) kind.check(child, misfits);
+            if (IsWindowVisible(child) && IsOfClass(child, kind.className))
+                kind.check(child, misfits);
         }
     }
 }

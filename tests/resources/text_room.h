@@ -13,10 +13,6 @@ SIZE WrappedSize(HFONT font, const std::wstring& text, LONG width);
 // Whether a text wrapped to a room's width lies within it.
 void CheckText(HFONT font, const std::wstring& text, const SIZE& room, Misfits& misfits);
 
-inline BOOL WINAPI IsAny(HWND) {
-    return TRUE;
-}
-
-// Whether the texts of a window's controls, or of some, lie within them: labels, buttons, boxes,
+// Whether the texts of the controls that a window shows lie within them: labels, buttons, boxes,
 // the entries of drop-down lists, the rows of lists, the captions of tabs.
-void CheckControls(HWND window, Misfits& misfits, BOOL(WINAPI* isMeant)(HWND control) = IsAny);
+void CheckControls(HWND window, Misfits& misfits);

@@ -34,16 +34,6 @@ bool CanBePressed(HWND control) {
     return id != IDOK && id != IDCANCEL && (name == L"Button" || name == kButtonStripClass);
 }
 
-// Whether the window's menu bar holds a menu.
-bool HasMenu(HWND window) {
-    return SendMessage(SHFindMenuBar(window), SHCMBM_GETMENU, 0, 0) != 0;
-}
-
-int FocusedRowOf(HWND list) {
-    return static_cast<int>(
-        SendMessage(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
-}
-
 bool IsBox(HWND control) {
     return ClassOf(control) == L"Button" &&
            (GetWindowLong(control, GWL_STYLE) & BS_TYPEMASK) == BS_AUTOCHECKBOX;
@@ -86,10 +76,8 @@ HWND Explorer::Focused(HWND window) {
 }
 
 void Explorer::Leave(HWND control, bool forward) {
-    if (IsListView(control))
-        program_.Press(forward ? VK_RIGHT : VK_LEFT);
-    else
-        program_.Press(forward ? VK_DOWN : VK_UP);
+    const bool isList = IsListView(control);
+    program_.Press(forward ? (isList ? VK_RIGHT : VK_DOWN) : (isList ? VK_LEFT : VK_UP));
 }
 
 void Explorer::FocusByKeys(HWND window, HWND control) {
@@ -101,12 +89,10 @@ void Explorer::FocusByKeys(HWND window, HWND control) {
     ADD_FAILURE() << "never comes to " << GetDlgCtrlID(control) << " of " << Place(window);
 }
 
-// --- The program
-
 void Explorer::VisitProgram() {
     ASSERT_TRUE(program_.Main());
     Look(program_.Main());
-    if (!getenv("NOPAGES")) VisitPages();
+    VisitPages();
     VisitMenuEntry(program_.Main(), VK_F1, 1); // The first saves and closes.
     for (int entry = 0; entry < 3; ++entry)
         VisitMenuEntry(program_.Main(), VK_F2, entry);
@@ -117,20 +103,20 @@ void Explorer::VisitPages() {
     HWND main = program_.Main();
     HWND list = FindWindowEx(main, nullptr, WC_LISTVIEW, nullptr);
     for (int row = 0; row < kPages; ++row) {
-        for (int key = 0; key < kPages && FocusedRowOf(list) != row; ++key) {
-            const int before = FocusedRowOf(list);
+        for (int key = 0; key < kPages && FocusedRow(list) != row; ++key) {
+            const int before = FocusedRow(list);
             program_.Press(VK_RIGHT);
-            if (FocusedRowOf(list) != before) continue;
+            if (FocusedRow(list) != before) continue;
             program_.Press(VK_DOWN);
             for (int i = 0; i < kPages; ++i)
                 program_.Press(VK_LEFT);
         }
-        ASSERT_EQ(FocusedRowOf(list), row);
+        ASSERT_EQ(FocusedRow(list), row);
         program_.Press(VK_RETURN);
         HWND page = program_.Active();
         ASSERT_NE(page, main) << row;
         Visit(page);
-        if (IsWindow(page)) program_.Command(page, IDOK);
+        if (IsWindow(page)) program_.Post(page, WM_COMMAND, IDOK);
         EXPECT_FALSE(IsWindow(page)) << row;
         EXPECT_EQ(program_.Focus(), list) << row;
     }
@@ -146,8 +132,6 @@ void Explorer::VisitMenuEntry(HWND window, WORD softKey, int entry) {
     EXPECT_NE(program_.Active(), window);
     VisitOpened(window);
 }
-
-// --- A window
 
 void Explorer::Visit(HWND window) {
     if (IsMessageBox(window)) {
@@ -166,7 +150,7 @@ void Explorer::Visit(HWND window) {
         ASSERT_EQ(TabOf(window), tab) << Place(window);
         VisitTab(window);
     }
-    if (HasMenu(window)) VisitMenuEntry(window, VK_F1, 0);
+    if (SendMessage(SHFindMenuBar(window), SHCMBM_GETMENU, 0, 0)) VisitMenuEntry(window, VK_F1, 0);
 }
 
 void Explorer::VisitTab(HWND window) {
@@ -185,17 +169,17 @@ void Explorer::VisitRows(HWND window, HWND list) {
         program_.Press(VK_RIGHT);
         FocusByKeys(window, list);
     }
-    for (int i = 0; i < kMostKeys && FocusedRowOf(list) > 0; ++i)
+    for (int i = 0; i < kMostKeys && FocusedRow(list) > 0; ++i)
         program_.Press(VK_UP);
     for (int row = 0; row < RowCount(list) && IsWindow(window); ++row) {
         ASSERT_EQ(Focused(window), list) << Place(window);
-        ASSERT_EQ(FocusedRowOf(list), row) << Place(window);
+        ASSERT_EQ(FocusedRow(list), row) << Place(window);
         EXPECT_EQ(SelectedRow(list), row) << Place(window);
         Look(window);
         PressButtons(window);
         if (!IsWindow(window) || !IsOperable(list)) return;
         FocusByKeys(window, list);
-        row = FocusedRowOf(list); // It may have been moved.
+        row = FocusedRow(list); // It may have been moved.
         program_.Press(VK_DOWN);
         VisitOpened(window); // What the row showed may be refused.
     }
@@ -253,5 +237,5 @@ void Explorer::CloseOpened(HWND opened) {
         program_.Press(VK_RETURN);
     }
     EXPECT_FALSE(IsWindow(opened)) << place;
-    if (IsWindow(opened)) program_.Command(opened, IDCANCEL);
+    if (IsWindow(opened)) program_.Post(opened, WM_COMMAND, IDCANCEL);
 }

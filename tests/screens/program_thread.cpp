@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
-#include <stand_in.h>
 
 #include <cwchar>
 
@@ -24,7 +23,7 @@ ProgramThread::ProgramThread() : settled_(CreateEvent(nullptr, FALSE, FALSE, nul
 ProgramThread::~ProgramThread() {
     for (int step = 0; step < 10 && Main(); ++step) {
         if (Active() == Main())
-            Command(Main(), IDCANCEL);
+            Post(Main(), WM_COMMAND, IDCANCEL);
         else
             Press(VK_RETURN); // Yes, to the question.
     }
@@ -76,18 +75,6 @@ GUITHREADINFO ProgramThread::Info() const {
     return info;
 }
 
-HWND ProgramThread::Active() const {
-    return Info().hwndActive;
-}
-
-HWND ProgramThread::Focus() const {
-    return Info().hwndFocus;
-}
-
-bool ProgramThread::HasOpenMenu() const {
-    return (Info().flags & GUI_INMENUMODE) != 0;
-}
-
 void ProgramThread::Settle() {
     if (PostMessage(helper_, kSettle, 3, 0)) WaitForSingleObject(settled_, kLimit);
 }
@@ -109,18 +96,8 @@ void ProgramThread::PressSoftKey(WORD key) {
     Settle();
 }
 
-void ProgramThread::Type(wchar_t character) {
-    PostMessage(Focus(), WM_CHAR, character, 1);
-    Settle();
-}
-
-void ProgramThread::Command(HWND window, UINT id) {
-    PostMessage(window, WM_COMMAND, id, 0);
-    Settle();
-}
-
-void ProgramThread::SetScreen(SIZE size) {
-    StandInSetScreen(size.cx, size.cy);
+void ProgramThread::Post(HWND window, UINT message, WPARAM wParam) {
+    PostMessage(window, message, wParam, 0);
     Settle();
 }
 

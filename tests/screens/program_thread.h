@@ -18,19 +18,16 @@ class ProgramThread {
 
     // Null when it has ended.
     [[nodiscard]] HWND Main() const;
-    [[nodiscard]] HWND Active() const;
-    [[nodiscard]] HWND Focus() const;
-    [[nodiscard]] bool HasOpenMenu() const;
+    [[nodiscard]] HWND Active() const { return Info().hwndActive; }
+    [[nodiscard]] HWND Focus() const { return Info().hwndFocus; }
+    [[nodiscard]] bool HasOpenMenu() const { return (Info().flags & GUI_INMENUMODE) != 0; }
 
     // A key pressed where the focus is. It and what follows from it is handled, and the active
     // window painted, when this returns; so it is with the rest.
     void Press(WPARAM key);
     // A key of the device's keyboard, which the soft keys are.
     void PressSoftKey(WORD key);
-    void Type(wchar_t character);
-    void Command(HWND window, UINT id);
-    // Plays a screen of another size, as after the device was turned.
-    void SetScreen(SIZE size);
+    void Post(HWND window, UINT message, WPARAM wParam);
     void Settle();
 
   private:

@@ -6,54 +6,23 @@
 #include <gtest/gtest.h>
 #include <stand_in.h>
 
-#include <algorithm>
-
 #include "shell/services/scaling.h"
 #include "tests/screens/explorer.h"
 #include "tests/support/registry_fixture.h"
 #include "tests/support/window_support.h"
+#include "ui/list_items.h"
 
 namespace {
-// The screens of a device, upright, by what the test's own screen is.
-struct Format {
-    int density;
-    int ownWidth;
-    SIZE screen;
-    bool doubleSize; // The program's measures, on a screen that does not say how fine it is.
-};
-constexpr Format kFormats[] = {
-    {96, 320, {240, 320}, false},
-    {128, 320, {320, 320}, false},
-    {192, 640, {480, 640}, false},
-    {96, 640, {480, 640}, true},
-};
-
-const Format* FormatOfDevice() {
-    HDC dc = GetDC(nullptr);
-    const int density = GetDeviceCaps(dc, LOGPIXELSX);
-    const int width = GetDeviceCaps(dc, HORZRES);
-    ReleaseDC(nullptr, dc);
-    const auto* found = std::ranges::find_if(kFormats, [&](const Format& format) {
-        return format.density == density && format.ownWidth == width;
-    });
-    return found == std::end(kFormats) ? nullptr : found;
-}
-
 bool IsEdit(HWND control) {
     return ClassOf(control) == L"Edit" && !(GetWindowLong(control, GWL_STYLE) & ES_READONLY);
 }
 
-// What the user has done to a control: its text, tick, selected row or entry, and marked text.
+// What the user has done to a control: its text, tick, selected entry, marked text and row.
 std::wstring StateOf(HWND control) {
     std::wstring state = TextOf(control);
-    UINT message = 0;
-    if (ClassOf(control) == L"Button") message = BM_GETCHECK;
-    if (ClassOf(control) == L"ComboBox") message = CB_GETCURSEL;
-    if (ClassOf(control) == L"Edit") message = EM_GETSEL;
-    if (message) state += L"|" + std::to_wstring(SendMessage(control, message, 0, 0));
-    if (IsListView(control))
-        state += L"|" + std::to_wstring(SendMessage(control, LVM_GETNEXTITEM,
-                                                    static_cast<WPARAM>(-1), LVNI_SELECTED));
+    for (const UINT message : {BM_GETCHECK, CB_GETCURSEL, EM_GETSEL})
+        state += L"|" + std::to_wstring(SendMessage(control, message, 0, 0));
+    if (IsListView(control)) state += L"|" + std::to_wstring(SelectedRow(control));
     return state;
 }
 
@@ -64,17 +33,8 @@ RECT PlaceOn(HWND window, HWND control) {
     return place;
 }
 
-// The pages in their list, which are to show all at once.
 bool HasIcons(HWND control) {
     return IsListView(control) && (GetWindowLong(control, GWL_STYLE) & LVS_TYPEMASK) == LVS_ICON;
-}
-
-RECT LastItem(HWND list) {
-    RECT place{}; // LVIR_BOUNDS
-    const LRESULT count = SendMessage(list, LVM_GETITEMCOUNT, 0, 0);
-    SendMessage(list, LVM_GETITEMRECT, static_cast<WPARAM>(count - 1),
-                reinterpret_cast<LPARAM>(&place));
-    return place;
 }
 
 std::string Text(const RECT& rect) {
@@ -100,7 +60,8 @@ class ScreenExplorer final : public Explorer {
         ExpectPlaces(window);
         // Every second sight is first seen on a screen that is turned already.
         std::swap(screen_.cx, screen_.cy);
-        program_.SetScreen(screen_);
+        StandInSetScreen(screen_.cx, screen_.cy);
+        program_.Settle();
         ExpectPlaces(window);
         EXPECT_EQ(program_.Focus(), focus) << Place(window);
         for (const auto& [control, state] : states)
@@ -112,7 +73,7 @@ class ScreenExplorer final : public Explorer {
         for (HWND control : ChildrenOf(window)) {
             if (!IsOperable(control) || !IsEdit(control)) continue;
             FocusByKeys(window, control);
-            program_.Type(L'7');
+            program_.Post(control, WM_CHAR, L'7');
             return;
         }
     }
@@ -134,7 +95,12 @@ class ScreenExplorer final : public Explorer {
             if (control == StripOf(window)) place.left = 0; // It hides its frame beyond the edge.
             ExpectInside(place, client, name);
             ExpectUsable(control, place, name);
-            if (HasIcons(control)) ExpectInside(LastItem(control), place, "icons of " + name);
+            if (HasIcons(control)) {
+                // The pages in their list are to show all at once.
+                RECT last{};
+                ListView_GetItemRect(control, RowCount(control) - 1, &last, LVIR_BOUNDS);
+                ExpectInside(last, place, "icons of " + name);
+            }
             for (const auto& [other, otherPlace] : placed) {
                 RECT common{};
                 EXPECT_FALSE(IntersectRect(&common, &place, &otherPlace))
@@ -162,14 +128,18 @@ class ScreenExplorer final : public Explorer {
 };
 
 TEST(Screens, HoldEverythingInItsPlaceAlsoTurned) {
-    const Format* format = FormatOfDevice();
-    ASSERT_TRUE(format);
-    if (format->doubleSize)
+    HDC dc = GetDC(nullptr);
+    const int density = GetDeviceCaps(dc, LOGPIXELSX);
+    const int unit = GetDeviceCaps(dc, HORZRES) / 320; // 2 for a screen of twice as many pixels.
+    ReleaseDC(nullptr, dc);
+    const SIZE screen = density == 128 ? SIZE{320, 320} : SIZE{240 * unit, 320 * unit};
+    // The program's measures, on a screen that does not say how fine it is.
+    if (density == 96 && unit == 2)
         SetNumber(HKEY_CURRENT_USER, L"Software\\Teskel\\Orvane", L"MyVgaMode", 1);
-    StandInSetScreen(format->screen.cx, format->screen.cy);
+    StandInSetScreen(screen.cx, screen.cy);
     ProgramThread program;
-    ASSERT_EQ(Scale(240), format->screen.cx);
-    ScreenExplorer explorer(program, format->screen);
+    ASSERT_EQ(Scale(240), screen.cx);
+    ScreenExplorer explorer(program, screen);
     explorer.VisitProgram();
     EXPECT_EQ(explorer.visited.size(), 21u); // Twelve pages and the dialogs.
 }

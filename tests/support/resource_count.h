@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <psapi.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -67,17 +65,9 @@ inline size_t HeapBytes() {
     return bytes;
 }
 
-// Bytes of memory that no other process shares.
-inline size_t PrivateMemory() {
-    PROCESS_MEMORY_COUNTERS counters{};
-    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
-    return counters.PagefileUsage;
-}
-
 struct HeldResources {
     size_t gdiObjects = CountGdiObjects();
     size_t userHandle = HighestUserHandle();
     size_t handle = LowestFreeHandle();
     size_t heapBytes = HeapBytes();
-    size_t memory = PrivateMemory();
 };
