@@ -1,17 +1,9 @@
 #include "pages/calendar_options.h"
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
-#include "resource_ids.h"
-#include "shell/services/resource_strings.h"
 #include "tests/pages/calendar_page_fixture.h"
-#include "tests/support/dialog_steps.h"
 #include "tests/support/text_words.h"
 
 namespace {
-constexpr int kDays = 1201;
 constexpr int kTaskList = 1230;
 constexpr int kDayList = 1231;
 constexpr int kMailList = 1233;
@@ -28,13 +20,8 @@ constexpr int kUp = 1251;
 constexpr int kDown = 1252;
 constexpr int kFileName = 111; // Of the file dialog.
 
-WideString Formatted(UINT text, int number) {
-    WideString formatted;
-    formatted.Format(LanguageText(text).CStr(), number);
-    return formatted;
-}
-
 using CalendarOptionsTest = CalendarPageFixture;
+using Number = DwordSetting SettingsStore::*;
 
 // Each option by the setting that it edits, if any, and a word with its texts: item, label and tip,
 // then the entries of its list. Where there is a "*", the rest may be anything.
@@ -67,14 +54,20 @@ const OptionList kLists[] = {
       &Store::TimelinesLength, &Store::TimelinesVertZ, &Store::TimelinesHorZ},
      L"675:773:774|* 676:775:776|109|110|111|1233| 677:777:778|779|780|781| 678:782:783 "
      L"679:784:785 680:786:787 681:788:789|790|791|792| 682:797:798 685:801:802 686:803:804 "
-     L"687:805:806 688:807:808 1215:799:800|* 1216:1234:1235|* 1217:1189:1190|* 1218:1191:1192|*"},
+     L"687:805:806 688:807:808 1215:799:800|12:00_AM|1:00_AM|2:00_AM|3:00_AM|4:00_AM|5:00_AM|"
+     L"6:00_AM|7:00_AM|8:00_AM|9:00_AM|10:00_AM|11:00_AM|12:00_PM|1:00_PM|2:00_PM|3:00_PM|4:00_PM|"
+     L"5:00_PM|6:00_PM| "
+     L"1216:1234:1235|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24| "
+     L"1217:1189:1190|1|2| 1218:1191:1192|1|2|"},
     {5,
      kMonthList,
      {&Store::OnPopupMonthCalClick, &Store::MonthlyPopupCalDateFrmt, &Store::MonthlyStartDay,
       &Store::FirstWorkDay, &Store::MonthlyPopWithWeekNum, &Store::MonthlyPopTimelines,
       &Store::MonthlyPopCatIcons, &Store::MonthlyPopIconsSize, &Store::PopupClrDPadNavigation,
       &Store::PinnedMonthlyClr},
-     L"689:809:810|811|812|813|814| 690:815:816|* 691:1193:1194|* 1219:1195:1196|* 692:819:820 "
+     L"689:809:810|811|812|813|814| 690:815:816|* "
+     L"691:1193:1194|Sunday|Monday|Tuesday|Wednesday|Thursday|Friday|Saturday| "
+     L"1219:1195:1196|Sunday|Monday|Tuesday|Wednesday|Thursday|Friday|Saturday| 692:819:820 "
      L"1220:1197:1198|1207|1208|1209| 1221:1199:1200 1222:1201:1202|* "
      L"1455:1455:1456|1452|1453|1454| 1223:1203:*"},
     {6,
@@ -88,7 +81,9 @@ const OptionList kLists[] = {
      kMiscellaneousList,
      {&Store::Force2DigitsTImeFrmt, &Store::SkinTodayWhenCollpsAll, &Store::HumanTime,
       &Store::HideOverDueTsksDayTtl, &Store::HideUndatedTsksDayTtl, nullptr, nullptr},
-     L"693:840:841 694:845:846 696:849:850|* 697:851:852 698:853:854 699::855 1224::"},
+     L"693:840:841 694:845:846 "
+     L"696:849:850|0:00_AM|1:00_AM|2:00_AM|3:00_AM|4:00_AM|5:00_AM|6:00_AM|7:00_AM|8:00_AM| "
+     L"697:851:852 698:853:854 699::855 1224::"},
 };
 
 // What is stored for an entry.
@@ -99,60 +94,30 @@ uint32_t ValueOf(Number setting, uint32_t entry) {
     return entry;
 }
 
-void SetAll(uint32_t value) {
+// Every number but one is that of a first entry.
+void SetAllBut(Number one) {
     for (const OptionList& list : kLists) {
         for (const Number setting : list.settings) {
-            if (setting) (settingsStore.*setting).Set(value);
+            if (setting) (settingsStore.*setting).Set(ValueOf(setting, setting == one));
         }
     }
 }
 
-TEST_F(CalendarOptionsTest, EveryOptionShowsAndStoresItsOwnSetting) {
-    constexpr uint32_t kUntouched = 99;
+TEST_F(CalendarOptionsTest, EachHasItsTextsAndItsOwnSetting) {
     settingsStore.dHeightLimit.Set(2000); // Enough for the pinned month.
-    OpenAt(0);
-    for (const OptionList& list : kLists) {
-        for (size_t row = 0; row < list.settings.size(); ++row) {
-            const Number setting = list.settings[row];
-            if (!setting) continue;
-            const auto select = [&] {
-                ShowTab(list.tab);
-                Select(list.id, static_cast<int>(row));
-            };
-            select();
-            const auto last =
-                IsShown(kBox) ? 1 : SendMessage(Control(kCombo), CB_GETCOUNT, 0, 0) - 1;
-            ShowTab(0);
-            SetAll(kUntouched);
-            (settingsStore.*setting).Set(ValueOf(setting, static_cast<uint32_t>(last)));
-            select();
-            EXPECT_TRUE(IsShown(kTip)) << list.id << " " << row;
-            EXPECT_NE(IsShown(kBox), IsShown(kCombo)) << list.id << " " << row;
-            EXPECT_EQ(Shown(), static_cast<uint32_t>(last)) << list.id << " " << row;
-            Change(0);
-            ShowTab(0);
-            EXPECT_EQ((settingsStore.*setting).value, ValueOf(setting, 0)) << list.id << " " << row;
-            (settingsStore.*setting).Set(kUntouched);
-            for (const OptionList& other : kLists) {
-                for (const Number otherSetting : other.settings)
-                    EXPECT_TRUE(!otherSetting || (settingsStore.*otherSetting).value == kUntouched)
-                        << "touched by " << list.id << " " << row;
-            }
-        }
-    }
-}
-
-TEST_F(CalendarOptionsTest, TextsAreThoseOfTheirNumbers) {
+    settingsStore.twelveHourClock = true;
     OpenAt(0);
     EXPECT_EQ(RowsOf(Control(kTitles)), Expand(L"700|701|702|703|704|705"));
     for (const OptionList& list : kLists) {
-        ShowTab(list.tab);
         std::wstring items;
         int row = 0;
         for (const std::wstring& word : Words(list.texts)) {
+            const Number setting = list.settings[static_cast<size_t>(row)];
+            SetAllBut(setting);
+            ShowTab(list.tab);
+            Select(list.id, row);
             const size_t item = word.find(L':');
-            items += (row ? L"|" : L"") + Expand(word.substr(0, item));
-            Select(list.id, row++);
+            items += (row++ ? L"|" : L"") + Expand(word.substr(0, item));
             std::wstring text = L":";
             if (IsShown(kLabel)) text += TextOf(Control(kLabel));
             if (IsShown(kBox)) text += TextOf(Control(kBox));
@@ -160,12 +125,44 @@ TEST_F(CalendarOptionsTest, TextsAreThoseOfTheirNumbers) {
             if (IsShown(kCombo)) text += L"|" + EntriesOf(Control(kCombo)) + L"|";
             const std::wstring expected = Expand(word.substr(item));
             EXPECT_EQ(text.substr(0, expected.find(L'*')), expected.substr(0, expected.find(L'*')));
+            if (!setting) continue;
+            EXPECT_EQ(Shown(), 1u) << list.id << " " << row;
+            Change(0);
+            ShowTab(0);
+            EXPECT_EQ((settingsStore.*setting).value, ValueOf(setting, 0)) << list.id << " " << row;
         }
         EXPECT_EQ(RowsOf(Control(list.id)), items);
     }
 }
 
-TEST_F(CalendarOptionsTest, StoresAnOptionOnceWhenItLosesTheSelection) {
+TEST_F(CalendarOptionsTest, OfferDatesAndTimesAsTheyAre) {
+    settingsStore.twelveHourClock = false;
+    OpenAt(2);
+    const auto entries = [this](int list, int row) {
+        Select(list, row);
+        return EntriesOf(Control(kCombo));
+    };
+    const auto today = [](const wchar_t* picture) {
+        wchar_t text[64] = L"";
+        GetDateFormat(LOCALE_USER_DEFAULT, 0, nullptr, picture, text, 64);
+        return L"|" + std::wstring(text);
+    };
+    const std::wstring due = entries(kTaskList, 9);
+    EXPECT_EQ(due.substr(due.find(L'|')),
+              today(L"M'/'d'/'yy") + today(L"d'/'M'/'yy") + today(L"M'/'d") + today(L"d'/'M"));
+    ShowTab(3);
+    const std::wstring titles = L"|" + entries(kDayList, 0);
+    EXPECT_EQ(titles.find(today(L"dddd',' MMM dd yyyy") + today(L"dddd',' MMM dd") +
+                          today(L"ddd',' MMM dd yyyy") + today(L"ddd',' MMM dd") + L"|"),
+              0u);
+    EXPECT_EQ(titles.substr(titles.rfind(L'|')), today(L"ddd',' dd MMM yyyy"));
+    ShowTab(5);
+    EXPECT_EQ(L"|" + entries(kMonthList, 1), today(L"MM'/'dd") + today(L"dd'/'MM"));
+    ShowTab(8);
+    EXPECT_EQ(entries(kMiscellaneousList, 2), L"0:00|1:00|2:00|3:00|4:00|5:00|6:00|7:00|8:00");
+}
+
+TEST_F(CalendarOptionsTest, AreStoredOnceWhenTheyLoseTheSelection) {
     settingsStore.IncldTasksInCR.Set(1);
     settingsStore.TasksSubsortOnCal.Set(2);
     OpenAt(2);
@@ -178,8 +175,7 @@ TEST_F(CalendarOptionsTest, StoresAnOptionOnceWhenItLosesTheSelection) {
     Change(5);
     ShowTab(3);
     EXPECT_EQ(settingsStore.TasksSubsortOnCal.value, 5u);
-    EXPECT_FALSE(IsShown(kTip));
-    EXPECT_FALSE(IsShown(kCombo));
+    EXPECT_FALSE(IsShown(kTip) || IsShown(kCombo));
     // Back and away again: the panel now holds another option's value, which is none of this one's.
     Select(kDayList, 3);
     Change(1);
@@ -196,98 +192,44 @@ TEST_F(CalendarOptionsTest, StoresAnOptionOnceWhenItLosesTheSelection) {
     EXPECT_EQ(settingsStore.ShowTomorrowTtl.value, 0u);
 }
 
-std::wstring EntriesOfOption(HWND window, int list, int row) {
-    SelectRow(GetDlgItem(window, list), row);
-    return EntriesOf(GetDlgItem(window, kCombo));
-}
-
-TEST_F(CalendarOptionsTest, OffersSamplesOfDatesAndTimes) {
-    OpenAt(2);
-    SYSTEMTIME today;
-    GetLocalTime(&today);
-    const std::wstring month = std::to_wstring(today.wMonth);
-    const std::wstring day = std::to_wstring(today.wDay);
-    const std::wstring year = std::to_wstring(today.wYear).substr(2);
-    const std::wstring dueDates = EntriesOfOption(window_, kTaskList, 9);
-    EXPECT_EQ(dueDates.substr(dueDates.find(L'|')),
-              L"|" + month + L"/" + day + L"/" + year + L"|" + day + L"/" + month + L"/" + year +
-                  L"|" + month + L"/" + day + L"|" + day + L"/" + month);
-    ShowTab(3);
-    const std::wstring titles = EntriesOfOption(window_, kDayList, 0);
-    EXPECT_EQ(std::count(titles.begin(), titles.end(), L'|'), 6);
-    const auto twoDigits = [](const std::wstring& number) {
-        return number.size() < 2 ? L"0" + number : number;
-    };
-    wchar_t name[32];
-    GetLocaleInfo(LOCALE_USER_DEFAULT, LOCALE_SABBREVDAYNAME1 + (today.wDayOfWeek + 6U) % 7, name,
-                  32);
-    EXPECT_EQ(titles.substr(titles.rfind(L'|') + 1).find(name + (L", " + twoDigits(day)) + L" "),
-              0u);
-    EXPECT_EQ(EntriesOfOption(window_, kDayList, 13),
-              L"6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24");
-    const std::wstring hours = EntriesOfOption(window_, kDayList, 12);
-    EXPECT_EQ(std::count(hours.begin(), hours.end(), L'|'), 18);
-    EXPECT_EQ(hours.find(L"12:00 AM|1:00 AM|2:00 AM|"), 0u);
-    EXPECT_EQ(hours.substr(hours.rfind(L'|')), L"|6:00 PM");
-    ShowTab(5);
-    EXPECT_EQ(EntriesOfOption(window_, kMonthList, 1), twoDigits(month) + L"/" + twoDigits(day) +
-                                                           L"|" + twoDigits(day) + L"/" +
-                                                           twoDigits(month));
-    EXPECT_EQ(EntriesOfOption(window_, kMonthList, 2),
-              L"Sunday|Monday|Tuesday|Wednesday|Thursday|Friday|Saturday");
-}
-
-TEST_F(CalendarOptionsTest, WritesTheEndOfTheDayByTheClock) {
-    for (const bool isTwelveHours : {true, false}) {
-        settingsStore.twelveHourClock = isTwelveHours;
-        OpenAt(8);
-        EXPECT_EQ(EntriesOfOption(window_, kMiscellaneousList, 2),
-                  isTwelveHours ? L"0:00 AM|1:00 AM|2:00 AM|3:00 AM|4:00 AM|5:00 AM|6:00 AM|7:00 "
-                                  L"AM|8:00 AM"
-                                : L"0:00|1:00|2:00|3:00|4:00|5:00|6:00|7:00|8:00");
-        Close();
-    }
-}
-
-TEST_F(CalendarOptionsTest, EditsPathAndText) {
+TEST_F(CalendarOptionsTest, MayBePathsAndTexts) {
+    const StringSetting& mailProgram = settingsStore.MailCustomInboxStr;
     settingsStore.MailCustomInboxStr.Set(L"\\Mail.exe");
     settingsStore.CustomDayttlFrmtDefault.Set(L"ddd d");
     OpenAt(6);
     Select(kMailList, 4);
-    EXPECT_TRUE(IsShown(kPath));
     EXPECT_EQ(TextOf(Control(kPath)), L"\\Mail.exe");
     Select(kMailList, 0);
     EXPECT_FALSE(IsShown(kPath));
-    EXPECT_STREQ(settingsStore.MailCustomInboxStr.value.CStr(), L"\\Mail.exe");
+    EXPECT_STREQ(mailProgram.value.CStr(), L"\\Mail.exe");
     Select(kMailList, 4);
     std::wstring title;
     TapAndWork(kPathBrowse, L"LoadFileWin", {[&title](HWND dialog) {
                    title = TextOf(GetParent(GetParent(dialog)));
-                   SetDlgItemText(dialog, kFileName, L"Own");
-                   PostMessage(dialog, WM_COMMAND, IDOK, 0);
+                   Write(kFileName, L"Own")(dialog);
                }});
     EXPECT_EQ(title, L"Custom Mail App.");
     const std::wstring chosen = TextOf(Control(kPath));
-    EXPECT_EQ(chosen.substr(chosen.rfind(L'\\')), L"\\Own.exe");
+    EXPECT_TRUE(chosen.ends_with(L"\\Own.exe"));
     ShowTab(7);
-    EXPECT_EQ(settingsStore.MailCustomInboxStr.value.CStr(), chosen);
+    EXPECT_EQ(mailProgram.value.CStr(), chosen);
     ShowTab(6);
     Select(kMailList, 4);
     Tap(window_, kPathClear);
     ShowTab(8);
-    EXPECT_TRUE(settingsStore.MailCustomInboxStr.value.IsEmpty());
+    EXPECT_TRUE(mailProgram.value.IsEmpty());
     Select(kMiscellaneousList, 5);
     EXPECT_EQ(TextOf(Control(kText)), L"ddd d");
     Tap(window_, kTextClear);
     EXPECT_EQ(TextOf(Control(kText)), L"");
-    SetWindowText(Control(kText), std::wstring(300, L'd').c_str());
+    SetDlgItemText(window_, kText, std::wstring(300, L'd').c_str());
     Close();
     EXPECT_EQ(settingsStore.CustomDayttlFrmtDefault.value.Length(), 255u);
 }
 
-constexpr Number kPlaces[] = {&SettingsStore::CalTitlesOrder0, &SettingsStore::CalTitlesOrder1,
-                              &SettingsStore::CalTitlesOrder2, &SettingsStore::CalTitlesOrder3,
-                              &SettingsStore::CalTitlesOrder4, &SettingsStore::CalTitlesOrder5};
+constexpr Number kPlaces[] = {&Store::CalTitlesOrder0, &Store::CalTitlesOrder1,
+                              &Store::CalTitlesOrder2, &Store::CalTitlesOrder3,
+                              &Store::CalTitlesOrder4, &Store::CalTitlesOrder5};
 
 std::string TitleOrder() {
     std::string order;
@@ -296,23 +238,19 @@ std::string TitleOrder() {
     return order;
 }
 
-TEST_F(CalendarOptionsTest, OrdersTheTitles) {
+TEST_F(CalendarOptionsTest, OrderTheTitles) {
     const uint32_t stored[] = {5, 5, 9, 0, 1, 4}; // A repeated number stays, a wrong one goes.
     for (size_t i = 0; i < 6; ++i)
         (settingsStore.*kPlaces[i]).Set(stored[i]);
     OpenAt(8);
-    EXPECT_FALSE(IsShown(kTitles));
-    Select(kMiscellaneousList, 6);
-    for (const int id : {kTitles, kUp, kDown})
-        EXPECT_TRUE(IsShown(id)) << id;
-    EXPECT_FALSE(IsShown(kTip));
-    {
-        MessageBoxAnswer answer(IDOK);
-        Tap(window_, kUp);
-        EXPECT_EQ(answer.count, 1);
-        EXPECT_EQ(answer.text, LanguageText(IDS_NOTHING_SELECTED_TEXT).CStr());
-        EXPECT_EQ(answer.caption, LanguageText(IDS_NOTHING_SELECTED_CAPTION).CStr());
+    for (const bool isSelected : {false, true}) {
+        if (isSelected) Select(kMiscellaneousList, 6);
+        for (const int id : {kTitles, kUp, kDown})
+            EXPECT_EQ(IsShown(id), isSelected) << id;
     }
+    const MessageBoxAnswer answer(IDOK);
+    Tap(window_, kUp);
+    ExpectSaid(answer, IDS_NOTHING_SELECTED_TEXT, IDS_NOTHING_SELECTED_CAPTION);
     Select(kTitles, 3);
     Tap(window_, kUp);
     Tap(window_, kUp);
@@ -320,31 +258,33 @@ TEST_F(CalendarOptionsTest, OrdersTheTitles) {
     Select(kTitles, 0);
     Tap(window_, kDown);
     Select(kMiscellaneousList, 0);
-    for (const int id : {kTitles, kUp, kDown})
-        EXPECT_FALSE(IsShown(id)) << id;
+    EXPECT_FALSE(IsShown(kTitles) || IsShown(kUp) || IsShown(kDown));
     Close();
     EXPECT_EQ(TitleOrder(), "055214");
 }
 
-TEST_F(CalendarOptionsTest, RefusesAPinnedMonthThatHasNoRoom) {
+TEST_F(CalendarOptionsTest, RefuseAPinnedMonthThatHasNoRoom) {
     const int needed = ScaleY(200);
+    const auto formatted = [needed](UINT id) {
+        WideString text;
+        text.Format(LanguageText(id).CStr(), needed);
+        return std::wstring(text.CStr());
+    };
     settingsStore.dHeightLimit.Set(static_cast<uint32_t>(needed - 1));
     enum class Way { Row, Tab, Closing, RowAndClosing };
     for (const Way way : {Way::Row, Way::Tab, Way::Closing, Way::RowAndClosing}) {
         settingsStore.PinnedMonthlyClr.Set(1);
         OpenAt(5);
         Select(kMonthList, 9);
-        EXPECT_EQ(TextOf(Control(kTip)), Formatted(IDS_CALENDAR_MONTH_PINNED_TIP, needed).CStr());
-        EXPECT_EQ(Shown(), 1u);
-        MessageBoxAnswer answer(IDOK);
+        EXPECT_EQ(TextOf(Control(kTip)), formatted(IDS_CALENDAR_MONTH_PINNED_TIP));
+        const MessageBoxAnswer answer(IDOK);
         if (way == Way::Row || way == Way::RowAndClosing) Select(kMonthList, 0);
         if (way == Way::Tab) ShowTab(6);
         if (way == Way::Closing || way == Way::RowAndClosing) Close();
         EXPECT_EQ(settingsStore.PinnedMonthlyClr.value, 0u);
         PumpMessages();
-        EXPECT_EQ(answer.count, 1);
-        EXPECT_EQ(answer.text, Formatted(IDS_CALENDAR_MONTH_PINNED_REFUSAL, needed).CStr());
-        EXPECT_EQ(answer.caption, LanguageText(IDS_CALENDAR_MONTH_PINNED_CAPTION).CStr());
+        EXPECT_EQ(answer.text, formatted(IDS_CALENDAR_MONTH_PINNED_REFUSAL));
+        EXPECT_EQ(answer.caption, Text(IDS_CALENDAR_MONTH_PINNED_CAPTION));
         if (page_) Close();
         EXPECT_EQ(answer.count, 1) << "told once";
     }

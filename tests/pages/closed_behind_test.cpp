@@ -1,24 +1,12 @@
 // Another program may close the main window, and with it the page, while something that the page
 // opened still waits for an answer.
-#include <windows.h>
-
-#include <gtest/gtest.h>
-
-#include <optional>
-#include <string>
 
 #include "files/category_store.h"
-#include "tests/support/dialog_steps.h"
-#include "tests/support/install_folder.h"
 #include "tests/support/page_fixture.h"
 #include "ui/controls.h"
 #include "ui/list_items.h"
 
 namespace {
-constexpr wchar_t kDialog[] = L"#32770"; // Message boxes, and dialogs made from templates.
-constexpr wchar_t kFolder[] = L"SelectFolderWin";
-constexpr wchar_t kColour[] = L"ColourPickerWin";
-
 struct Opened {
     const char* name;
     int page;
@@ -27,18 +15,18 @@ struct Opened {
     int list = 0;          // Where a row is to be selected.
 };
 const Opened kOpened[] = {
-    {"GeneralFolder", 0, 1214, kFolder},
+    {"GeneralFolder", 0, 1214, kFolderDialog},
     {"TasksMenu", 2, 1216, nullptr},
-    {"NotesFolder", 3, 1217, kFolder},
-    {"NotesRefusal", 3, 1216, kDialog},
-    {"FontsColour", 7, 1210, kColour, 1211},
-    {"ColoursPicker", 8, 1200, kColour, 1201},
-    {"PimRefusal", 9, 1201, kDialog},
-    {"TabsAdding", 10, 1209, kDialog},
+    {"NotesFolder", 3, 1217, kFolderDialog},
+    {"NotesRefusal", 3, 1216, kTemplateDialog},
+    {"FontsColour", 7, 1210, kColourPicker, 1211},
+    {"ColoursPicker", 8, 1200, kColourPicker, 1201},
+    {"PimRefusal", 9, 1201, kTemplateDialog},
+    {"TabsAdding", 10, 1209, kTemplateDialog},
     {"CategoryIcon", 11, 1201, L"ImagePickerWin", 1200},
-    {"CategoryColour", 11, 1202, kColour, 1200},
-    {"CategoryName", 11, 1205, kDialog},
-    {"CategoryFolder", 11, 1216, kFolder},
+    {"CategoryColour", 11, 1202, kColourPicker, 1200},
+    {"CategoryName", 11, 1205, kTemplateDialog},
+    {"CategoryFolder", 11, 1216, kFolderDialog},
 };
 
 class ClosedBehind : public PageFixture, public testing::WithParamInterface<Opened> {
@@ -47,17 +35,11 @@ class ClosedBehind : public PageFixture, public testing::WithParamInterface<Open
 
     void SetUp() override {
         PageFixture::SetUp();
-        folder_.emplace();
         folder_->SetCategories("1\t0\tWork\n");
         categoryStore.LoadCategoryStore();
         const std::wstring item = L"SOFTWARE\\Microsoft\\Today\\Items\\Alarm"; // Can be a tab.
         SetNumber(HKEY_LOCAL_MACHINE, item, L"Type", 4);
         SetText(HKEY_LOCAL_MACHINE, item, L"DLL", L"\\Alarm.dll");
-    }
-    void TearDown() override {
-        current_ = nullptr;
-        folder_.reset();
-        PageFixture::TearDown();
     }
 
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
@@ -70,17 +52,17 @@ class ClosedBehind : public PageFixture, public testing::WithParamInterface<Open
     }
 
     static inline ClosedBehind* current_;
-    std::optional<InstallFolder> folder_;
 };
 
 TEST_P(ClosedBehind, IsSurvived) {
     Open();
     Close();
     settingsStore.Save();
-    HWND window = Open();
+    Open();
     const RegistryTree before = GetTree(HKEY_CURRENT_USER);
-    HWND button = GetDlgItem(window, GetParam().button);
-    if (GetParam().list) SelectRow(GetDlgItem(window, GetParam().list), 0);
+    HWND window = window_;
+    HWND button = Control(GetParam().button);
+    if (GetParam().list) SelectRow(Control(GetParam().list), 0);
     current_ = this;
     SetTimer(nullptr, 0, 20, OnTimer);
     if (SelectData(button, 4)) // The list of applications; what is not installed is refused.

@@ -1,12 +1,5 @@
 // The forms of pages: what each control edits, and the texts by the numbers that language libraries
 // know them by.
-#include <windows.h>
-
-#include <commctrl.h>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 #include "tests/support/page_fixture.h"
 #include "tests/support/text_words.h"
@@ -72,11 +65,15 @@ const Form kForms[] = {
      L"1201=SEventDays 1203=SEAlertBeforeDays 1205=SEDateFormat 1207=SEContactFormat "
      L"1211=SEFilterAlertBeforeDays 1221=BreakLineStyle 1222=IncldFoldBttns 1223=IncldCounters",
      L"1042 1043 1062",
-     L"1046 |117|118|119| 1047 |* 1048 |1049|* 1444 |1441|1442|1443| 1044 |* 1045 |* "
+     L"1046 |117|118|119| 1047 |1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16| 1048 |1049|* "
+     L"1444 |1441|1442|1443| 1044 |* 1045 |1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16| "
      L"1038 |1421|* 1039 |1421|* 1040 |1421|* 1041 |1421|* 1068 |109|110|111|1233| 1069 1254"},
-    {"Pim", 9, L"\\CustomPIM", L"", L"916 917",
+    {"Fonts", 7, L"\\Fonts", L"1204=FontGnrlUseAdvncd 1208=UseShadowColor 1209=ForceClearType"},
+    {"Pim", 9, L"\\CustomPIM",
+     L"1206=OverridePimCatIcons 1207=OverridePimCatColros 1208=LeaveAFRunning 1209=HideABCVals",
+     L"916 917",
      L"918 |106|1646| 1540 |1542|0_1543|5_1543|10_1543|15_1543|30_1543|45_1543|1_1544|2_1545|"
-     L"4_1545|8_1545|1_1546| 1541 |1542|* 919 920 921 922"},
+     L"4_1545|8_1545|1_1546| 1541 |1542|12:00_AM|12:30_AM|1:00_AM|* 919 920 921 922"},
     {"Tabs", 10, L"\\TabSettings",
      L"1201=TabsMode 1203=TabGesturesMode 1205=TabGesturEffect 1212=DfltTabTimeOut 1214=DfltTab "
      L"1215=DfltTabOnStartup"},
@@ -90,23 +87,15 @@ bool IsCombo(HWND control) {
 
 class Forms : public PageFixture, public testing::WithParamInterface<Form> {
   protected:
-    Forms() : PageFixture(GetParam().row) {}
-
-    void SetUp() override {
-        PageFixture::SetUp();
-        LoadArt();
-    }
+    Forms() : PageFixture(GetParam().row, GetParam().key) {}
 
     uint32_t Shown(int id) const {
-        HWND control = GetDlgItem(page_->hwnd, id);
-        return static_cast<uint32_t>(
-            SendMessage(control, IsCombo(control) ? CB_GETCURSEL : BM_GETCHECK, 0, 0));
+        return static_cast<uint32_t>(IsCombo(Control(id)) ? Chosen(id) : IsTicked(id));
     }
     // Ticked boxes and last entries are what is stored, until one of them is changed.
     uint32_t Stored(int id) const {
-        HWND control = GetDlgItem(page_->hwnd, id);
-        if (!IsCombo(control)) return 1;
-        return static_cast<uint32_t>(SendMessage(control, CB_GETCOUNT, 0, 0)) - 1;
+        if (!IsCombo(Control(id))) return 1;
+        return static_cast<uint32_t>(SendMessage(Control(id), CB_GETCOUNT, 0, 0)) - 1;
     }
 };
 
@@ -118,7 +107,6 @@ TEST_P(Forms, EveryControlShowsAndSavesItsOwnSetting) {
         uint32_t stored;
     };
     std::vector<Edited> controls;
-    const std::wstring key = std::wstring(L"Software\\Teskel\\Orvane") + GetParam().key;
     Open();
     for (const std::wstring& word : Words(GetParam().controls)) {
         const int id = std::stoi(word);
@@ -127,12 +115,12 @@ TEST_P(Forms, EveryControlShowsAndSavesItsOwnSetting) {
     Close();
     for (const Edited& changed : controls) {
         for (const Edited& control : controls)
-            SetNumber(HKEY_CURRENT_USER, key, control.name, control.stored);
-        HWND window = Open();
-        if (IsCombo(GetDlgItem(window, changed.id)))
-            Choose(window, changed.id, 0);
+            Store(control.name.c_str(), control.stored);
+        Open();
+        if (IsCombo(Control(changed.id)))
+            Choose(window_, changed.id, 0);
         else
-            SendDlgItemMessage(window, changed.id, BM_SETCHECK, BST_UNCHECKED, 0);
+            SendMessage(Control(changed.id), BM_SETCHECK, BST_UNCHECKED, 0);
         Close();
         settingsStore.Save();
         Open();
@@ -161,9 +149,47 @@ TEST_P(Forms, TextsAreThoseOfTheirNumbers) {
         EXPECT_EQ(text.substr(0, known), expected.substr(0, known)) << GetDlgCtrlID(control);
     }
     EXPECT_EQ(next, words.size());
-    Close();
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, Forms, testing::ValuesIn(kForms),
                          [](const auto& form) { return std::string(form.param.page); });
+
+// Steps on a page just opened with its defaults: "@" taps a box or chooses an entry, "+" and "-"
+// tell a control or a range of them that is enabled or disabled then.
+struct Rules {
+    int row;
+    const wchar_t* steps;
+};
+const Rules kRules[] = {
+    {0, L"-1207-1210 @1206 +1207-1210 +1226-1229 -1230-1231 +1232-1233 "
+        L"@1227=1 +1226-1227 -1228-1229 +1230-1231 -1232 +1233 @1225 -1226-1233"},
+    {1, L"-1207 @1206 +1207 @1206 -1207"},
+    {2, L"-1222-1227 @1221 +1222-1227"},
+    {7, L"+1200-1203 @1204 -1200-1203 +1205-1206 @1204 +1200-1203"},
+    {10, L"@1203=0 -1204-1205 @1203=2 +1204-1205"},
+};
+
+class FormRules : public PageFixture, public testing::WithParamInterface<Rules> {
+  protected:
+    FormRules() : PageFixture(GetParam().row) {}
+};
+
+TEST_P(FormRules, EnableWhatCounts) {
+    Open();
+    for (const std::wstring& step : Words(GetParam().steps)) {
+        const int id = std::stoi(step.substr(1));
+        const size_t entry = step.find(L'=');
+        if (entry != std::wstring::npos) {
+            Choose(window_, id, std::stoi(step.substr(entry + 1)));
+        } else if (step[0] == L'@') {
+            Tap(window_, id);
+        } else {
+            const int last = std::stoi(step.substr(step.size() - 4));
+            for (int control = id; control <= last; ++control)
+                EXPECT_EQ(IsEnabled(control), step[0] == L'+') << control << " of " << id;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, FormRules, testing::ValuesIn(kRules));
 } // namespace

@@ -1,24 +1,16 @@
 #include "pages/tabs_page.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "resource_ids.h"
-#include "shell/services/resource_strings.h"
-#include "tests/support/dialog_steps.h"
 #include "tests/support/page_fixture.h"
 #include "ui/list_items.h"
 
 namespace {
-constexpr wchar_t kTabSettings[] = L"Software\\Teskel\\Orvane\\TabSettings";
 constexpr int kList = 1206;
 constexpr int kUp = 1207;
 constexpr int kDown = 1208;
 constexpr int kAdd = 1209;
 constexpr int kRemove = 1210;
-constexpr wchar_t kOwnTabs[] = L"Tasks|Notes|Contacts|Mail|Special events";
+constexpr int kPlugins = 473; // The list of the dialog that adds one.
+const std::wstring kOwnTabs = L"Tasks|Notes|Contacts|Mail|Special events";
 
 std::wstring ItemKey(const std::wstring& name) {
     return L"SOFTWARE\\Microsoft\\Today\\Items\\" + name;
@@ -30,30 +22,25 @@ void RegisterItem(const wchar_t* name, uint32_t type, uint32_t enabled) {
     SetText(HKEY_LOCAL_MACHINE, ItemKey(name), L"DLL", std::wstring(L"\\") + name + L".dll");
 }
 
-const DialogSteps::Step kOk = [](HWND dialog) { SendMessage(dialog, WM_COMMAND, IDOK, 0); };
+std::optional<uint32_t> EnabledItem(const wchar_t* name) {
+    return GetNumber(HKEY_LOCAL_MACHINE, ItemKey(name), L"Enabled");
+}
 
 class TabsPageTest : public PageFixture {
   protected:
-    TabsPageTest() : PageFixture(10) {}
+    TabsPageTest() : PageFixture(10, L"\\TabSettings") {}
 
-    // With what the store holds, as when the user comes back to the page.
-    void Reopen() {
-        Close();
-        page_.reset(CreatePage(owner_, 10));
-    }
-
-    HWND List() const { return GetDlgItem(page_->hwnd, kList); }
+    HWND List() const { return Control(kList); }
     std::wstring Rows() const { return RowsOf(List()); }
     void Select(const wchar_t* text) const { SelectRow(List(), std::wstring(text)); }
 
-    // Works the add dialog, with its own class.
-    void Add(std::vector<DialogSteps::Step> steps) const {
-        const DialogSteps work(L"#32770", std::move(steps));
-        Tap(page_->hwnd, kAdd);
-        EXPECT_TRUE(IsWindowEnabled(page_->hwnd));
+    // Works the dialog that adds a tab.
+    void Add(std::vector<DialogSteps::Step> steps = {Answer(IDOK)}) const {
+        TapAndWork(kAdd, kTemplateDialog, std::move(steps));
+        EXPECT_TRUE(IsWindowEnabled(window_));
     }
 
-    // The orders of the listed tabs and which of them are on, as the store has them.
+    // The orders of the tabs and which of them are on, as the store has them.
     static std::wstring Stored() {
         std::wstring stored;
         for (const auto& tab : settingsStore.tabs.All()) {
@@ -65,42 +52,32 @@ class TabsPageTest : public PageFixture {
 };
 
 TEST_F(TabsPageTest, MovesAndTicksTabsAndNumbersThemFromTwo) {
-    SetNumber(HKEY_CURRENT_USER, kTabSettings, L"ContactsTabEnabled", 0);
-    HWND window = Open();
+    Store(L"ContactsTabEnabled", 0);
+    Open();
     EXPECT_EQ(Rows(), kOwnTabs) << "the calendar's is not listed";
     EXPECT_FALSE(IsRowTicked(List(), 2));
     Select(L"Notes");
-    Tap(window, kUp);
+    Tap(window_, kUp);
     Select(L"Contacts");
-    Tap(window, kDown);
+    Tap(window_, kDown);
     TickRow(List(), 1, false);
-    const wchar_t kMoved[] =
-        L"1 Calendar+|2 Notes+|3 Tasks-|4 Mail+|5 Contacts-|6 Special events+|";
     for (int opening = 0; opening < 2; ++opening) {
         Reopen();
         EXPECT_EQ(Rows(), L"Notes|Tasks|Mail|Contacts|Special events") << opening;
-        EXPECT_EQ(Stored(), kMoved) << opening;
+        EXPECT_EQ(Stored(), L"1 Calendar+|2 Notes+|3 Tasks-|4 Mail+|5 Contacts-|6 Special events+|")
+            << opening;
     }
-    Close();
-    settingsStore.Save();
-    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kTabSettings, L"TasksTabOrder"), 3u);
-    EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, kTabSettings, L"TasksTabEnabled"), 0u);
-    Open();
-    EXPECT_EQ(Stored(), kMoved);
-    Close();
 }
 
 TEST_F(TabsPageTest, OffersPluginsAloneAndWantsOneSelected) {
     RegisterItem(L"Date", 0, 1);
     RegisterItem(L"Orvane", 4, 1);
     Open();
-    MessageBoxAnswer answer(IDOK);
+    const MessageBoxAnswer answer(IDOK);
     std::wstring offered = L"?";
-    const DialogSteps::Step read = [&](HWND dialog) {
-        offered = EntriesOf(GetDlgItem(dialog, 473));
-    };
+    const auto read = [&](HWND dialog) { offered = EntriesOf(GetDlgItem(dialog, kPlugins)); };
     bool stays = false;
-    Add({read, kOk, [&](HWND dialog) { stays = IsWindowVisible(dialog); }});
+    Add({read, Answer(IDOK), [&](HWND dialog) { stays = IsWindowVisible(dialog); }});
     EXPECT_TRUE(stays);
     EXPECT_EQ(offered, L"");
     EXPECT_EQ(answer.count, 1);
@@ -113,95 +90,59 @@ TEST_F(TabsPageTest, OffersPluginsAloneAndWantsOneSelected) {
     Add({read});
     EXPECT_EQ(offered, L"Alarm|Tides");
     EXPECT_EQ(Rows(), kOwnTabs) << "cancelled";
-    Close();
 }
 
 TEST_F(TabsPageTest, TakesAPluginOffTheTodayScreenWhenAllowed) {
     RegisterItem(L"Alarm", 4, 1);
     Open();
     for (const int button : {IDNO, IDYES}) {
-        MessageBoxAnswer answer(button);
-        Add({kOk});
-        EXPECT_EQ(answer.text, LanguageText(IDS_TABS_DISABLE_QUESTION).CStr());
+        const MessageBoxAnswer answer(button);
+        Add();
+        EXPECT_EQ(answer.text, Text(IDS_TABS_DISABLE_QUESTION));
         const bool agreed = button == IDYES;
-        EXPECT_EQ(Rows(), kOwnTabs + std::wstring(agreed ? L"|Alarm" : L""));
-        EXPECT_EQ(GetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Alarm"), L"Enabled"), agreed ? 0u : 1u);
+        EXPECT_EQ(Rows(), kOwnTabs + (agreed ? L"|Alarm" : L""));
+        EXPECT_EQ(EnabledItem(L"Alarm"), agreed ? 0u : 1u);
     }
     EXPECT_TRUE(IsRowTicked(List(), 5));
-    Reopen();
-    EXPECT_EQ(Rows(), kOwnTabs + std::wstring(L"|Alarm"));
     Close();
     settingsStore.Save();
-    const std::wstring key = std::wstring(kTabSettings) + L"\\Alarm";
+    const std::wstring key = key_ + L"\\Alarm";
     EXPECT_EQ(GetText(HKEY_CURRENT_USER, key, L"InstallPath"), L"\\Alarm.dll");
-    EXPECT_FALSE(HasValue(HKEY_CURRENT_USER, key, L"DLL"));
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, key, L"Enabled"), 1u);
     EXPECT_EQ(GetNumber(HKEY_CURRENT_USER, key, L"Order"), 7u);
 }
 
-TEST_F(TabsPageTest, AddsAPluginWithoutAFile) {
-    SetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Bare"), L"Type", 4);
-    SetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Bare"), L"Enabled", 0);
-    Open();
-    Add({kOk});
-    EXPECT_EQ(Rows(), kOwnTabs + std::wstring(L"|Bare"));
-    const TabDefinition* tab = settingsStore.tabs.FindType(TabType::Hosted);
-    ASSERT_TRUE(tab);
-    EXPECT_STREQ(tab->name.CStr(), L"Bare");
-    EXPECT_STREQ(tab->installPath.CStr(), L"");
-    Close();
-}
-
 TEST_F(TabsPageTest, RefusesASecondTabOfAPluginAndRemovesHostedTabsAlone) {
-    RegisterItem(L"Mail", 4, 0); // Named as a tab of the dashboard's own.
-    SetNumber(HKEY_CURRENT_USER, std::wstring(kTabSettings) + L"\\mail", L"Order", 3);
-    HWND window = Open();
-    MessageBoxAnswer answer(IDOK);
+    SetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Mail"), L"Type", 4); // As a tab of the dashboard's own,
+    SetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Mail"), L"Enabled", 0); // and without a file.
+    SetNumber(HKEY_CURRENT_USER, key_ + L"\\mail", L"Order", 3);
+    Open();
+    const MessageBoxAnswer answer(IDOK);
     EXPECT_EQ(Rows(), L"Tasks|Notes|mail|Contacts|Mail|Special events");
-    Add({kOk});
+    Add();
     EXPECT_EQ(answer.count, 0) << "neither an own tab nor another case of letters";
-    Add({kOk});
-    EXPECT_EQ(answer.text, LanguageText(IDS_TABS_EXISTS).CStr());
+    Add();
+    EXPECT_EQ(answer.text, Text(IDS_TABS_EXISTS));
     EXPECT_EQ(Rows(), L"Tasks|Notes|mail|Contacts|Mail|Special events|Mail");
+    EXPECT_STREQ(settingsStore.tabs.All().back()->installPath.CStr(), L"");
 
     EXPECT_FALSE(IsEnabled(kRemove));
     SelectRow(List(), 4);
     EXPECT_FALSE(IsEnabled(kRemove));
     SelectRow(List(), 6);
     EXPECT_TRUE(IsEnabled(kRemove));
-    Tap(window, kUp);
+    Tap(window_, kUp);
     EXPECT_TRUE(IsEnabled(kRemove)) << "goes with the tab";
-    Tap(window, kRemove);
+    ShowTab(1);
+    SetFocus(Control(kRemove));
+    Tap(window_, kRemove);
     EXPECT_FALSE(IsEnabled(kRemove));
+    EXPECT_EQ(GetFocus(), List()) << "not on the disabled button";
     SelectRow(List(), 2);
-    Tap(window, kRemove);
+    Tap(window_, kRemove);
     EXPECT_EQ(Rows(), kOwnTabs);
     Close();
     EXPECT_EQ(Stored(), L"1 Calendar+|2 Tasks+|3 Notes+|4 Contacts+|5 Mail+|6 Special events+|");
-    settingsStore.Save();
-    EXPECT_FALSE(HasKey(HKEY_CURRENT_USER, std::wstring(kTabSettings) + L"\\mail"));
-    EXPECT_EQ(GetNumber(HKEY_LOCAL_MACHINE, ItemKey(L"Mail"), L"Enabled"), 0u);
-}
-
-TEST_F(TabsPageTest, LeavesTheFocusOnTheListWhenATabIsRemoved) {
-    SetNumber(HKEY_CURRENT_USER, std::wstring(kTabSettings) + L"\\Alarm", L"Order", 2);
-    HWND window = Open();
-    ShowTab(1);
-    Select(L"Alarm");
-    SetFocus(GetDlgItem(window, kRemove));
-    Tap(window, kRemove);
-    EXPECT_EQ(Rows(), kOwnTabs);
-    EXPECT_EQ(GetDlgCtrlID(GetFocus()), kList) << "not on the disabled button";
-    Close();
-}
-
-// A gesture's effect needs gestures.
-TEST_F(TabsPageTest, EnablesTheEffectOfGestures) {
-    HWND window = Open();
-    for (const int gestures : {0, 2, 0}) {
-        Choose(window, 1203, gestures);
-        EXPECT_EQ(IsEnabled(1205), gestures != 0);
-    }
-    Close();
+    EXPECT_EQ(EnabledItem(L"Mail"), 0u);
 }
 } // namespace

@@ -40,10 +40,7 @@ class BackupCommandsTest : public StoreFixture {
 
     // Runs a command of the menu whose dialog is confirmed with the file's name.
     void Run(UINT command, const wchar_t* dialogClass, const std::wstring& file) const {
-        const DialogSteps steps(dialogClass, {[&](HWND dialog) {
-                                    SetDlgItemText(dialog, kNameBox, file.c_str());
-                                    SendMessage(dialog, WM_COMMAND, IDOK, 0);
-                                }});
+        const DialogSteps steps(dialogClass, {Write(kNameBox, file)});
         SendMessage(window_, WM_COMMAND, command, 0);
     }
     void Export(const std::wstring& name) const {
@@ -63,15 +60,12 @@ TEST_F(BackupCommandsTest, OffersANameOfTodayAndSaysWhereTheBackupIs) {
     GetLocalTime(&now);
     wchar_t expected[64];
     wsprintf(expected, L"OV_Backup_%04d_%02d_%02d", now.wYear, now.wMonth, now.wDay);
-    std::wstring offered;
     {
         const DialogSteps steps(L"SaveFileWin", {[&](HWND dialog) {
-                                    offered = TextOf(GetDlgItem(dialog, kNameBox));
-                                    SendMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+                                    EXPECT_EQ(TextOf(GetDlgItem(dialog, kNameBox)), expected);
                                 }});
         SendMessage(window_, WM_COMMAND, IDC_EXPORT_BACKUP, 0);
     }
-    EXPECT_EQ(offered, expected);
 
     const MessageBoxAnswer done(IDOK);
     Export(L"Mine");
@@ -94,7 +88,7 @@ TEST_F(BackupCommandsTest, ImportsSavesTheCategoriesAndEnds) {
                                "\"VisibleState\"=dword:0\n\"IncludeUncategorized\"=dword:1\n");
     SetUserNumber(kRoot, L"GoofyMode", 1);
     SetUserNumber(kCategories, L"CatColor.Work", 7);
-    const WideString caption = LanguageText(IDS_BACKUP_IMPORTED_CAPTION);
+    const WideString caption = LanguageText(IDS_BACKUP_IMPORTED_CAPTION); // Goes with the window.
     const MessageBoxAnswer done(IDOK);
     Import(L"In");
     EXPECT_EQ(done.caption, caption.CStr());

@@ -1,18 +1,17 @@
 #include "tests/support/dialog_steps.h"
 
 #include <commctrl.h>
+#include <gtest/gtest.h>
 
 namespace {
 DialogSteps* current;
 
-std::wstring RowText(HWND list, LRESULT row) {
+std::wstring RowText(HWND list, int row) {
     wchar_t text[MAX_PATH] = L"";
-    LVITEM item{};
-    item.pszText = text;
-    item.cchTextMax = MAX_PATH;
-    SendMessage(list, LVM_GETITEMTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    ListView_GetItemText(list, row, 0, text, MAX_PATH);
     return text;
 }
+
 // Answers a message box that nobody expected before the dialog itself is cancelled.
 void Leave(HWND dialog) {
     HWND front = GetLastActivePopup(dialog);
@@ -28,6 +27,7 @@ DialogSteps::DialogSteps(const wchar_t* className, std::vector<Step> steps)
 DialogSteps::~DialogSteps() {
     KillTimer(nullptr, timer_);
     current = nullptr;
+    EXPECT_TRUE(next_ > 0 || steps_.empty()) << "no dialog came";
 }
 
 void CALLBACK DialogSteps::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
@@ -45,21 +45,27 @@ void DialogSteps::TakeStep() {
     busy_ = false;
 }
 
+DialogSteps::Step Answer(WPARAM button) {
+    return [button](HWND dialog) { PostMessage(dialog, WM_COMMAND, button, 0); };
+}
+
+DialogSteps::Step Write(int id, const std::wstring& text, WPARAM button) {
+    return [=](HWND dialog) {
+        SetDlgItemText(dialog, id, text.c_str());
+        PostMessage(dialog, WM_COMMAND, button, 0);
+    };
+}
+
 std::wstring RowsOf(HWND list) {
     std::wstring rows;
-    const LRESULT count = SendMessage(list, LVM_GETITEMCOUNT, 0, 0);
-    for (LRESULT row = 0; row < count; ++row)
+    for (int row = 0; row < ListView_GetItemCount(list); ++row)
         rows += (row ? L"|" : L"") + RowText(list, row);
     return rows;
 }
 
 void SelectRow(HWND list, const std::wstring& text) {
-    LVITEM item{};
-    item.state = item.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
-    const LRESULT count = SendMessage(list, LVM_GETITEMCOUNT, 0, 0);
-    for (LRESULT row = 0; row < count; ++row) {
-        if (RowText(list, row) == text)
-            SendMessage(list, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
-                        reinterpret_cast<LPARAM>(&item));
+    constexpr UINT kSelected = LVIS_FOCUSED | LVIS_SELECTED;
+    for (int row = 0; row < ListView_GetItemCount(list); ++row) {
+        if (RowText(list, row) == text) ListView_SetItemState(list, row, kSelected, kSelected);
     }
 }

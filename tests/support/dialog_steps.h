@@ -7,8 +7,8 @@
 #include <vector>
 
 // Works the next dialog of a window class from inside its own loop: one step at each turn of a
-// timer, while this lives. A dialog that the last step leaves open is cancelled, as a test must not
-// hang.
+// timer, while this lives, or the test fails. A dialog that the last step leaves open is cancelled,
+// as a test must not hang.
 class DialogSteps {
   public:
     using Step = std::function<void(HWND dialog)>;
@@ -28,6 +28,10 @@ class DialogSteps {
     bool busy_ = false; // A step's own loop, as of a message box, turns the timer as well.
     UINT_PTR timer_;
 };
+
+// Steps that press a button, such as IDOK, and that write into a field before.
+DialogSteps::Step Answer(WPARAM button);
+DialogSteps::Step Write(int id, const std::wstring& text, WPARAM button = IDOK);
 
 // The texts of a list view's rows, parted by "|".
 std::wstring RowsOf(HWND list);

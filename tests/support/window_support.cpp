@@ -39,12 +39,9 @@ std::wstring EntriesOf(HWND combo) {
     std::wstring entries;
     const LRESULT count = SendMessage(combo, CB_GETCOUNT, 0, 0);
     for (LRESULT i = 0; i < count; ++i) {
-        const LRESULT length = SendMessage(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0);
-        std::wstring text(static_cast<size_t>(length) + 1, L'\0');
-        SendMessage(combo, CB_GETLBTEXT, static_cast<WPARAM>(i),
-                    reinterpret_cast<LPARAM>(text.data()));
-        text.resize(static_cast<size_t>(length));
-        entries += (i ? L"|" : L"") + text;
+        wchar_t text[512] = L""; // No entry is longer.
+        SendMessage(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+        entries += (i ? L"|" : L"") + std::wstring(text);
     }
     return entries;
 }
@@ -58,12 +55,6 @@ std::vector<COLORREF> PixelsOf(HWND window, const RECT& place) {
     }
     ReleaseDC(window, dc);
     return pixels;
-}
-
-LPARAM MiddleOf(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return MAKELPARAM(client.right / 2, client.bottom / 2);
 }
 
 MessageBoxAnswer::MessageBoxAnswer(int button)

@@ -22,9 +22,6 @@ std::wstring EntriesOf(HWND combo);
 // What a part of a window shows; the place is in pixels of its client area.
 std::vector<COLORREF> PixelsOf(HWND window, const RECT& place);
 
-// A point in the middle of a window's client area, as a mouse message carries it.
-LPARAM MiddleOf(HWND window);
-
 // Answers the next message boxes of this thread with a button (IDYES …), or OK where there is no
 // such button, while it lives, and keeps what the last one said.
 class MessageBoxAnswer {

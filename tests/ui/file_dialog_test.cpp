@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/services/application.h"
-#include "shell/services/scaling.h"
 #include "tests/support/dialog_steps.h"
+#include "tests/support/owner_window.h"
 #include "tests/support/window_support.h"
 #include "ui/folder_dialog.h"
 
@@ -26,15 +25,11 @@ enum class Kind { Save, Open, Folder };
 class FileDialogTest : public testing::Test {
   protected:
     void SetUp() override {
-        application.instance = GetModuleHandle(nullptr);
         for (const wchar_t* folder : kFolders)
             CreateDirectory(folder, nullptr);
         for (const wchar_t* file : kFiles)
             CloseHandle(CreateFile(file, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-        SetVgaMode(false); // As at start, by the screen's density.
-        owner_ =
-            CreateWindowEx(0, L"Static", L"Owner", WS_POPUP | WS_VISIBLE, 0, Scale(26), Scale(240),
-                           Scale(268), nullptr, nullptr, application.instance, nullptr);
+        owner_ = CreateOwner();
     }
     void TearDown() override {
         DestroyWindow(owner_);
@@ -75,8 +70,9 @@ class FileDialogTest : public testing::Test {
         SendDlgItemMessage(dialog, kList, WM_KEYDOWN, VK_RETURN, 0);
     }
     // A key as the dialog's loop takes it.
-    static void Press(WPARAM key) { PostMessage(GetFocus(), WM_KEYDOWN, key, 0); }
-    static void PressOk(HWND dialog) { PostMessage(dialog, WM_COMMAND, IDOK, 0); }
+    static DialogSteps::Step Press(WPARAM key) {
+        return [key](HWND) { PostMessage(GetFocus(), WM_KEYDOWN, key, 0); };
+    }
     static std::wstring Name(HWND dialog) { return TextOf(GetDlgItem(dialog, kName)); }
 
     HWND owner_ = nullptr;
@@ -84,53 +80,39 @@ class FileDialogTest : public testing::Test {
 };
 
 TEST_F(FileDialogTest, ListsFoldersAndThenTheFilesOfTheExtension) {
-    std::wstring rows;
-    std::wstring inFolder;
-    Run(Kind::Open, L"", {[&](HWND dialog) {
-            rows = RowsOf(GetDlgItem(dialog, kList));
+    Run(Kind::Open, L"", {[](HWND dialog) {
+            EXPECT_EQ(RowsOf(GetDlgItem(dialog, kList)), L"Alpha|beta|one.ovsb|TWO.OVSB");
             Activate(dialog, L"beta");
-            inFolder =
-                TextOf(GetDlgItem(dialog, kPathText)) + L":" + RowsOf(GetDlgItem(dialog, kList));
+            EXPECT_EQ(TextOf(GetDlgItem(dialog, kPathText)), L"\\FileTest\\beta");
+            EXPECT_EQ(RowsOf(GetDlgItem(dialog, kList)), L"");
         }});
-    EXPECT_EQ(rows, L"Alpha|beta|one.ovsb|TWO.OVSB");
-    EXPECT_EQ(inFolder, L"\\FileTest\\beta:");
 }
 
 TEST_F(FileDialogTest, RefusesMissingNamesAndIllegalCharacters) {
-    struct Case {
-        std::wstring name;
-        std::wstring refusal;
-    };
-    std::vector<Case> cases;
-    for (const wchar_t* name : {L"", L"  ", L"beta\\"})
-        cases.push_back({name, L"File name value is missing"});
+    std::vector<std::wstring> names = {L"", L"  ", L"beta\\"};
     for (const wchar_t character : std::wstring(L"/:*?\"<>|"))
-        cases.push_back(
-            {std::wstring(L"a") + character + L"b", L"File name include illegal characters"});
+        names.push_back(std::wstring(L"a") + character + L"b");
     MessageBoxAnswer answer(IDOK);
     std::vector<DialogSteps::Step> steps;
-    for (const Case& refused : cases) {
+    for (const std::wstring& name : names) {
         steps.emplace_back([&](HWND dialog) {
             answer.text.clear();
             SetFocus(GetDlgItem(dialog, kList));
-            SetDlgItemText(dialog, kName, refused.name.c_str());
-            PressOk(dialog);
+            Write(kName, name)(dialog);
         });
         steps.emplace_back([&](HWND dialog) {
-            EXPECT_EQ(answer.text, refused.refusal) << testing::PrintToString(refused.name);
+            EXPECT_EQ(answer.text, name[0] == L'a' ? L"File name include illegal characters"
+                                                   : L"File name value is missing");
             EXPECT_EQ(answer.caption, L"File Name Error");
             EXPECT_EQ(GetFocus(), GetDlgItem(dialog, kName));
         });
     }
     EXPECT_EQ(Run(Kind::Save, L"", steps), L"untouched");
-    EXPECT_EQ(answer.count, static_cast<int>(cases.size()));
+    EXPECT_EQ(answer.count, static_cast<int>(names.size()));
 }
 
 TEST_F(FileDialogTest, MakesThePathOfFolderNameAndExtension) {
-    constexpr struct {
-        const wchar_t* name;
-        const wchar_t* path;
-    } kCases[] = {
+    constexpr std::pair<const wchar_t*, const wchar_t*> kNames[] = {
         {L"new", L"\\FileTest\\new.ovsb"},
         {L" New.OvSb ", L"\\FileTest\\New.OvSb"},
         {L"new.ovsbx", L"\\FileTest\\new.ovsbx.ovsb"},
@@ -138,61 +120,54 @@ TEST_F(FileDialogTest, MakesThePathOfFolderNameAndExtension) {
         {L"beta\\new", L"\\FileTest\\beta\\new.ovsb"},
         {L"\\Elsewhere\\new", L"\\Elsewhere\\new.ovsb"},
     };
-    for (const auto& given : kCases) {
+    for (const auto& [name, path] : kNames) {
         for (const Kind kind : {Kind::Save, Kind::Open}) {
-            EXPECT_EQ(Run(kind, given.name, {PressOk}), given.path);
+            EXPECT_EQ(Run(kind, name, {Answer(IDOK)}), path);
             EXPECT_TRUE(confirmed_);
         }
     }
 }
 
 TEST_F(FileDialogTest, StartsWhereAFileWasChosenLast) {
-    Run(Kind::Save, L"new", {[](HWND dialog) {
-            Activate(dialog, L"beta");
-            PressOk(dialog);
-        }});
+    Run(Kind::Save, L"new", {[](HWND dialog) { Activate(dialog, L"beta"); }, Answer(IDOK)});
     // Where a dialog that is cancelled went does not count.
     Run(Kind::Open, L"", {});
-    std::wstring start;
-    RunHere(Kind::Open, L"", {[&](HWND dialog) { start = TextOf(GetDlgItem(dialog, kPathText)); }});
-    EXPECT_EQ(start, L"\\FileTest\\beta");
+    RunHere(Kind::Open, L"", {[](HWND dialog) {
+                EXPECT_EQ(TextOf(GetDlgItem(dialog, kPathText)), L"\\FileTest\\beta");
+            }});
 }
 
 TEST_F(FileDialogTest, IsWorkedByKeys) {
     // The name box has the focus first where a name is to be given.
-    EXPECT_EQ(Run(Kind::Save, L"new", {[](HWND) { Press(VK_RETURN); }}), L"\\FileTest\\new.ovsb");
-    EXPECT_EQ(Run(Kind::Save, L"new", {[](HWND) { Press(VK_ESCAPE); }}), L"untouched");
+    EXPECT_EQ(Run(Kind::Save, L"new", {Press(VK_RETURN)}), L"\\FileTest\\new.ovsb");
+    EXPECT_EQ(Run(Kind::Save, L"new", {Press(VK_ESCAPE)}), L"untouched");
     EXPECT_FALSE(confirmed_);
-    std::wstring shown;
-    EXPECT_EQ(Run(Kind::Open, L"",
-                  {[](HWND) { Press(VK_END); }, [&](HWND dialog) { shown = Name(dialog); },
-                   [](HWND) { Press(VK_UP); }, [](HWND) { Press(VK_RETURN); }}),
+    const auto look = [](HWND dialog) { EXPECT_EQ(Name(dialog), L"TWO.OVSB"); };
+    EXPECT_EQ(Run(Kind::Open, L"", {Press(VK_END), look, Press(VK_UP), Press(VK_RETURN)}),
               L"\\FileTest\\one.ovsb");
-    EXPECT_EQ(shown, L"TWO.OVSB");
     // Enter on a folder goes into it.
-    EXPECT_EQ(Run(Kind::Open, L"new", {[](HWND) { Press(VK_RETURN); }, PressOk}),
+    EXPECT_EQ(Run(Kind::Open, L"new", {Press(VK_RETURN), Answer(IDOK)}),
               L"\\FileTest\\Alpha\\new.ovsb");
 }
 
 TEST_F(FileDialogTest, AsksBeforeItReplacesAFile) {
-    std::wstring passed;
-    std::wstring tapped;
-    bool stays = false;
-    MessageBoxAnswer no(IDNO);
-    EXPECT_EQ(Run(Kind::Save, L"typed",
-                  {[&](HWND dialog) {
-                       SelectRow(GetDlgItem(dialog, kList), L"one.ovsb");
-                       passed = Name(dialog);
-                       Activate(dialog, L"one.ovsb");
-                       tapped = Name(dialog);
-                       PressOk(dialog);
-                   },
-                   [&](HWND dialog) { stays = IsWindowVisible(dialog); }}),
-              L"untouched");
-    EXPECT_EQ(passed, L"typed");
-    EXPECT_EQ(tapped, L"one.ovsb");
-    EXPECT_EQ(no.count, 1);
-    EXPECT_TRUE(stays);
+    {
+        const MessageBoxAnswer no(IDNO);
+        const auto tap = [](HWND dialog) {
+            SelectRow(GetDlgItem(dialog, kList), L"one.ovsb");
+            EXPECT_EQ(Name(dialog), L"typed") << "only passed";
+            Activate(dialog, L"one.ovsb");
+            EXPECT_EQ(Name(dialog), L"one.ovsb");
+        };
+        const auto look = [](HWND dialog) { EXPECT_TRUE(IsWindowVisible(dialog)); };
+        EXPECT_EQ(Run(Kind::Save, L"typed", {tap, Answer(IDOK), look}), L"untouched");
+        EXPECT_EQ(no.count, 1);
+    }
+    const MessageBoxAnswer yes(IDYES);
+    EXPECT_EQ(Run(Kind::Open, L"one", {Answer(IDOK)}), L"\\FileTest\\one.ovsb");
+    EXPECT_EQ(yes.count, 0);
+    EXPECT_EQ(Run(Kind::Save, L"one", {Answer(IDOK)}), L"\\FileTest\\one.ovsb");
+    EXPECT_EQ(yes.count, 1);
 }
 
 TEST_F(FileDialogTest, TheFolderDialogTakesTheFolderThatItShows) {
@@ -208,7 +183,7 @@ TEST_F(FileDialogTest, TheFolderDialogTakesTheFolderThatItShows) {
                            SendDlgItemMessage(dialog, kList, WM_KEYDOWN, VK_RETURN, 0);
                            note(dialog);
                        },
-                       PressOk}),
+                       Answer(IDOK)}),
               L"\\FileTest\\beta");
     EXPECT_EQ(shown, L"\\FileTest:Alpha|beta \\FileTest\\beta: ") << "folders only, in order";
     EXPECT_TRUE(confirmed_);
@@ -218,18 +193,10 @@ TEST_F(FileDialogTest, TheFolderDialogTakesTheFolderThatItShows) {
                            Tap(dialog, kUpButton);
                            EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, kUpButton)));
                        },
-                       PressOk}),
+                       Answer(IDOK)}),
               L"\\");
-    EXPECT_EQ(RunHere(Kind::Folder, L"\\Missing", {[](HWND) { Press(VK_ESCAPE); }}), L"\\Missing");
+    EXPECT_EQ(RunHere(Kind::Folder, L"\\Missing", {Press(VK_ESCAPE)}), L"\\Missing");
     EXPECT_FALSE(confirmed_);
-}
-
-TEST_F(FileDialogTest, ReplacesWhenToldToAndOpensWithoutAQuestion) {
-    MessageBoxAnswer yes(IDYES);
-    EXPECT_EQ(Run(Kind::Open, L"one", {PressOk}), L"\\FileTest\\one.ovsb");
-    EXPECT_EQ(yes.count, 0);
-    EXPECT_EQ(Run(Kind::Save, L"one", {PressOk}), L"\\FileTest\\one.ovsb");
-    EXPECT_EQ(yes.count, 1);
 }
 
 TEST_F(FileDialogTest, RaisesTheInputPanelForTheNameOnly) {

@@ -5,9 +5,11 @@
 
 #include <string>
 
-#include "shell/services/application.h"
+#include "tests/support/owner_window.h"
 #include "tests/support/window_support.h"
 #include "ui/controls.h"
+#include "ui/list_items.h"
+#include "ui/tab_strip.h"
 
 namespace {
 constexpr UINT kFirstBox = 1;
@@ -17,6 +19,7 @@ constexpr UINT kCombo = 4;
 constexpr UINT kEditCombo = 5;
 constexpr UINT kList = 6;
 constexpr UINT kButton = 7;
+constexpr UINT kStrip = 100;
 
 std::string told;
 HWND hiddenByTab; // A control that a switch of tabs hides.
@@ -37,40 +40,22 @@ LRESULT CALLBACK RootProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
 class KeyNavigation : public testing::Test {
   protected:
     void SetUp() override {
-        application.instance = GetModuleHandle(nullptr);
-        WNDCLASS rootClass{};
-        rootClass.lpfnWndProc = RootProc;
-        rootClass.lpszClassName = L"KeyNavigationRoot";
-        RegisterClass(&rootClass);
-        root_ = CreateWindowEx(0, L"KeyNavigationRoot", L"", WS_POPUP | WS_VISIBLE, 0, 0, 200, 300,
-                               nullptr, nullptr, application.instance, nullptr);
-        strip_ = Add(WC_TABCONTROL, 0, 100, 280);
-        for (int i = 0; i < 3; ++i) {
-            wchar_t caption[] = L"Tab";
-            TCITEM item{};
-            item.mask = TCIF_TEXT;
-            item.pszText = caption;
-            SendMessage(strip_, TCM_INSERTITEM, static_cast<WPARAM>(i),
-                        reinterpret_cast<LPARAM>(&item));
-        }
+        root_ = CreateOwner();
+        SetWindowLongPtr(root_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(RootProc));
+        strip_ = Add(WC_TABCONTROL, 0, kStrip, 280);
+        for (int i = 0; i < 3; ++i)
+            InsertTab(strip_, i, L"Tab");
         Add(L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX, kFirstBox, 0);
         EnableWindow(Add(L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX, kDisabledBox, 20), FALSE);
         ShowWindow(Add(L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX, kHiddenBox, 40), SW_HIDE);
         for (HWND combo : {Add(L"COMBOBOX", WS_TABSTOP | CBS_DROPDOWNLIST, kCombo, 60),
                            Add(L"COMBOBOX", WS_TABSTOP | CBS_DROPDOWN, kEditCombo, 80)}) {
-            for (const wchar_t* entry : {L"one", L"two"})
-                SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+            AddEntry(combo, L"one");
+            AddEntry(combo, L"two");
         }
         HWND list = Add(WC_LISTVIEW, WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL, kList, 100);
-        LVCOLUMN column{};
-        column.mask = LVCF_WIDTH;
-        column.cx = 90;
-        SendMessage(list, LVM_INSERTCOLUMN, 0, reinterpret_cast<LPARAM>(&column));
-        for (int i = 0; i < 2; ++i) {
-            LVITEM item{};
-            item.iItem = i;
-            SendMessage(list, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
-        }
+        AddColumn(list);
+        AddRow(list, L"one");
         Add(L"BUTTON", WS_TABSTOP, kButton, 240);
         FocusFirstControl(root_);
         told.clear();
@@ -84,10 +69,7 @@ class KeyNavigation : public testing::Test {
 
     // Presses a key where the focus is, through the message loop's two steps.
     void Press(WPARAM key) {
-        MSG message{};
-        message.hwnd = GetFocus();
-        message.message = WM_KEYDOWN;
-        message.wParam = key;
+        const MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
         if (!TranslateNavigationKey(root_, message)) SendMessage(message.hwnd, WM_KEYDOWN, key, 0);
         PumpMessages();
     }
@@ -97,7 +79,7 @@ class KeyNavigation : public testing::Test {
         HWND window = GetFocus();
         while (window && GetParent(window) != root_)
             window = GetParent(window);
-        return window == strip_ ? 100 : static_cast<UINT>(GetDlgCtrlID(window));
+        return static_cast<UINT>(GetDlgCtrlID(window));
     }
 
     HWND root_ = nullptr;
@@ -105,23 +87,22 @@ class KeyNavigation : public testing::Test {
 };
 
 TEST_F(KeyNavigation, TabGoesRoundPastHiddenAndDisabledControls) {
-    for (UINT expected : {kCombo, kEditCombo, kList, kButton, 100u, kFirstBox}) {
+    for (UINT expected : {kCombo, kEditCombo, kList, kButton, kStrip, kFirstBox}) {
         Press(VK_TAB);
         EXPECT_EQ(Focused(), expected);
     }
 }
 
 TEST_F(KeyNavigation, LeftAndRightChooseOnAClosedListAndTellThePage) {
-    HWND combo = GetDlgItem(root_, kCombo);
-    SetFocus(combo);
+    SetFocus(GetDlgItem(root_, kCombo));
     Press(VK_RIGHT);
-    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 0);
+    EXPECT_EQ(SelectedIndex(root_, kCombo), 0);
     Press(VK_RIGHT);
     Press(VK_RIGHT);
-    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 1) << "stops at the last entry";
+    EXPECT_EQ(SelectedIndex(root_, kCombo), 1) << "stops at the last entry";
     Press(VK_LEFT);
     Press(VK_LEFT);
-    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 0);
+    EXPECT_EQ(SelectedIndex(root_, kCombo), 0);
     EXPECT_EQ(told, "choice choice choice ");
 }
 
@@ -135,7 +116,7 @@ TEST_F(KeyNavigation, AnOpenListHasTheKeysUntilEnter) {
     EXPECT_EQ(Focused(), kCombo);
     Press(VK_RETURN);
     EXPECT_FALSE(SendMessage(combo, CB_GETDROPPEDSTATE, 0, 0));
-    EXPECT_EQ(SendMessage(combo, CB_GETCURSEL, 0, 0), 1);
+    EXPECT_EQ(SelectedIndex(root_, kCombo), 1);
 }
 
 TEST_F(KeyNavigation, EnterPressesAndNeverCloses) {
@@ -178,10 +159,7 @@ TEST_F(KeyNavigation, CtrlTabSwitchesFromAnywhereAndKeepsAFocus) {
 }
 
 TEST_F(KeyNavigation, LeavesOtherWindowsAlone) {
-    MSG message{};
-    message.hwnd = GetDesktopWindow();
-    message.message = WM_KEYDOWN;
-    message.wParam = VK_TAB;
+    const MSG message{GetDesktopWindow(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
     EXPECT_FALSE(TranslateNavigationKey(root_, message));
 }
 } // namespace

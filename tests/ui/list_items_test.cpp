@@ -5,8 +5,7 @@
 
 #include <string>
 
-#include "shell/services/application.h"
-#include "shell/services/scaling.h"
+#include "tests/support/owner_window.h"
 #include "tests/support/window_support.h"
 
 namespace {
@@ -15,10 +14,7 @@ constexpr int kList = 10;
 class ListItems : public testing::Test {
   protected:
     void SetUp() override {
-        application.instance = GetModuleHandle(nullptr);
-        SetVgaMode(false); // As at start, by the screen's density.
-        parent_ = CreateWindowEx(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 120, 120, nullptr,
-                                 nullptr, application.instance, nullptr);
+        parent_ = CreateOwner();
         list_ = CreateList(parent_, kList, nullptr, 20);
         MoveWindow(list_, 0, 0, Scale(120), ScaleY(62), FALSE);
         AddTickBoxes(list_);
@@ -26,12 +22,8 @@ class ListItems : public testing::Test {
     void TearDown() override { DestroyWindow(parent_); }
 
     std::wstring TextOfRow(int row) const {
-        std::wstring text(2048, L'\0');
-        LVITEM item{};
-        item.pszText = text.data();
-        item.cchTextMax = static_cast<int>(text.size());
-        text.resize(static_cast<size_t>(SendMessage(
-            list_, LVM_GETITEMTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item))));
+        wchar_t text[2048] = L"";
+        ListView_GetItemText(list_, row, 0, text, 2048);
         return text;
     }
     HWND parent_ = nullptr;
@@ -57,9 +49,8 @@ TEST_F(ListItems, MovesTheSelectedRowWithAllItHas) {
 
     MoveSelectedRow(parent_, list_, false);
     EXPECT_EQ(RowData(list_, 2), 8u) << "stays at the edge";
-    MoveSelectedRow(parent_, list_, true);
-    MoveSelectedRow(parent_, list_, true);
-    MoveSelectedRow(parent_, list_, true);
+    for (int i = 0; i < 3; ++i)
+        MoveSelectedRow(parent_, list_, true);
     EXPECT_EQ(RowData(list_, 0), 8u);
     EXPECT_EQ(RowData(list_, 1), 7u);
     EXPECT_EQ(SelectedRow(list_), 0);
