@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <psapi.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -12,10 +14,10 @@
 inline size_t CountGdiObjects() {
     struct Entry {
         uint64_t object;
-        uint16_t owner;
+        uint32_t owner;
         uint16_t unique;
-        uint8_t type;
-        uint8_t rest[11];
+        uint8_t type; // 0 for a free place.
+        uint8_t rest[9];
     };
     static_assert(sizeof(Entry) == 24);
     const auto currentBlock = reinterpret_cast<const char* (*)()>(
@@ -65,9 +67,17 @@ inline size_t HeapBytes() {
     return bytes;
 }
 
+// Bytes of memory that no other process shares.
+inline size_t PrivateMemory() {
+    PROCESS_MEMORY_COUNTERS counters{};
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+    return counters.PagefileUsage;
+}
+
 struct HeldResources {
     size_t gdiObjects = CountGdiObjects();
     size_t userHandle = HighestUserHandle();
     size_t handle = LowestFreeHandle();
     size_t heapBytes = HeapBytes();
+    size_t memory = PrivateMemory();
 };
