@@ -1,5 +1,7 @@
 #include "files/line_reader.h"
 
+#include <algorithm>
+
 #include "files/utf8.h"
 
 LineReader::LineReader(ByteSource& source) : bytes_(source), line_(new wchar_t[kMaxLine]) {}
@@ -7,6 +9,8 @@ LineReader::LineReader(ByteSource& source) : bytes_(source), line_(new wchar_t[k
 std::optional<std::wstring_view> LineReader::Next() {
     size_t length = 0;
     while (length < kMaxLine) {
+        length += TakePlain(length);
+        if (length == kMaxLine) break;
         const size_t taken = Take(length);
         if (taken == 0) break;
         length += taken;
@@ -14,6 +18,16 @@ std::optional<std::wstring_view> LineReader::Next() {
     }
     if (length == 0) return std::nullopt;
     return std::wstring_view(line_.get(), length);
+}
+
+size_t LineReader::TakePlain(size_t place) {
+    const std::span<const uint8_t> ahead = bytes_.Ahead(1);
+    const size_t most = std::min(ahead.size(), kMaxLine - place);
+    size_t count = 0;
+    for (; count < most && ahead[count] >= ' ' && ahead[count] < 0x80; ++count)
+        line_[place + count] = static_cast<wchar_t>(ahead[count]);
+    bytes_.Skip(count);
+    return count;
 }
 
 size_t LineReader::Take(size_t place) {

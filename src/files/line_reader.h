@@ -19,6 +19,9 @@ class LineReader {
     [[nodiscard]] std::optional<std::wstring_view> Next();
 
   private:
+    // Puts the letters, digits and signs of ASCII that come next at the place given, as far as the
+    // line has room; gives how many. Most lines are made of them.
+    size_t TakePlain(size_t place);
     // Puts the next character at the place given; gives how many units of 16 bits it took.
     size_t Take(size_t place);
 
