@@ -13,9 +13,9 @@ void ByteReader::Fill() {
     memmove(buffer_.get(), buffer_.get() + begin_, left);
     begin_ = 0;
     end_ = left;
-    while (end_ < 4) {
+    while (end_ < 4 && !isAtEnd_) {
         const size_t count = source_.Read(buffer_.get() + end_, kBufferSize - end_);
-        if (count == 0) return;
+        isAtEnd_ = count == 0;
         end_ += count;
     }
 }

@@ -47,4 +47,5 @@ class ByteReader {
     std::unique_ptr<uint8_t[]> buffer_;
     size_t begin_ = 0;
     size_t end_ = 0;
+    bool isAtEnd_ = false; // Of the source: what gave nothing once is not asked again.
 };
